@@ -1,0 +1,600 @@
+#include "Containers/UnrealString.h"
+
+#include <cstdarg>
+#include <cstdio>
+
+namespace
+{
+	std::u16string Utf8ToUtf16(std::string_view In)
+	{
+		std::u16string Out;
+		Out.reserve(In.size());
+		for (SIZE_T Index = 0; Index < In.size();)
+		{
+			const uint8 Lead = static_cast<uint8>(In[Index]);
+			uint32 CodePoint = 0xFFFD;
+			SIZE_T Extra = 0;
+			if (Lead < 0x80)
+			{
+				CodePoint = Lead;
+			}
+			else if ((Lead >> 5) == 0x6)
+			{
+				CodePoint = Lead & 0x1F;
+				Extra = 1;
+			}
+			else if ((Lead >> 4) == 0xE)
+			{
+				CodePoint = Lead & 0x0F;
+				Extra = 2;
+			}
+			else if ((Lead >> 3) == 0x1E)
+			{
+				CodePoint = Lead & 0x07;
+				Extra = 3;
+			}
+			++Index;
+			for (SIZE_T Continuation = 0; Continuation < Extra && Index < In.size(); ++Continuation, ++Index)
+			{
+				CodePoint = (CodePoint << 6) | (static_cast<uint8>(In[Index]) & 0x3F);
+			}
+			if (CodePoint >= 0x10000)
+			{
+				CodePoint -= 0x10000;
+				Out.push_back(static_cast<char16_t>(0xD800 + (CodePoint >> 10)));
+				Out.push_back(static_cast<char16_t>(0xDC00 + (CodePoint & 0x3FF)));
+			}
+			else
+			{
+				Out.push_back(static_cast<char16_t>(CodePoint));
+			}
+		}
+		return Out;
+	}
+
+	std::string Utf16ToUtf8(std::u16string_view In)
+	{
+		std::string Out;
+		Out.reserve(In.size());
+		for (SIZE_T Index = 0; Index < In.size(); ++Index)
+		{
+			uint32 CodePoint = In[Index];
+			if (CodePoint >= 0xD800 && CodePoint < 0xDC00 && Index + 1 < In.size())
+			{
+				CodePoint = 0x10000 + ((CodePoint - 0xD800) << 10) + (In[Index + 1] - 0xDC00);
+				++Index;
+			}
+			if (CodePoint < 0x80)
+			{
+				Out.push_back(static_cast<char>(CodePoint));
+			}
+			else if (CodePoint < 0x800)
+			{
+				Out.push_back(static_cast<char>(0xC0 | (CodePoint >> 6)));
+				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
+			}
+			else if (CodePoint < 0x10000)
+			{
+				Out.push_back(static_cast<char>(0xE0 | (CodePoint >> 12)));
+				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 6) & 0x3F)));
+				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
+			}
+			else
+			{
+				Out.push_back(static_cast<char>(0xF0 | (CodePoint >> 18)));
+				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 12) & 0x3F)));
+				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 6) & 0x3F)));
+				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
+			}
+		}
+		return Out;
+	}
+
+	int32 CompareCharacters(std::u16string_view A, std::u16string_view B, ESearchCase::Type SearchCase)
+	{
+		const SIZE_T Common = A.size() < B.size() ? A.size() : B.size();
+		for (SIZE_T Index = 0; Index < Common; ++Index)
+		{
+			TCHAR CharA = A[Index];
+			TCHAR CharB = B[Index];
+			if (SearchCase == ESearchCase::IgnoreCase)
+			{
+				CharA = FChar::ToLower(CharA);
+				CharB = FChar::ToLower(CharB);
+			}
+			if (CharA != CharB)
+			{
+				return CharA < CharB ? -1 : 1;
+			}
+		}
+		if (A.size() == B.size())
+		{
+			return 0;
+		}
+		return A.size() < B.size() ? -1 : 1;
+	}
+
+	FString FormatWithPrintf(const char* NarrowSpec, ...)
+	{
+		char Buffer[128];
+		va_list Args;
+		va_start(Args, NarrowSpec);
+		std::vsnprintf(Buffer, sizeof(Buffer), NarrowSpec, Args);
+		va_end(Args);
+		return FString(Buffer);
+	}
+}
+
+FString::FString(const TCHAR* Str)
+	: Data(Str ? Str : u"")
+{
+}
+
+FString::FString(const ANSICHAR* Str)
+	: Data(Str ? Utf8ToUtf16(Str) : std::u16string())
+{
+}
+
+FString::FString(int32 InCount, const TCHAR* InSrc)
+	: Data(InSrc, static_cast<SIZE_T>(InCount))
+{
+}
+
+FString::FString(std::u16string_view View)
+	: Data(View)
+{
+}
+
+FString& FString::operator=(const TCHAR* Str)
+{
+	Data = Str ? Str : u"";
+	return *this;
+}
+
+TCHAR& FString::operator[](int32 Index)
+{
+	checkf(IsValidIndex(Index), TEXT("String index out of bounds: Index %i from a string with a length of %i"), Index, Len());
+	return Data[static_cast<SIZE_T>(Index)];
+}
+
+const TCHAR& FString::operator[](int32 Index) const
+{
+	checkf(IsValidIndex(Index), TEXT("String index out of bounds: Index %i from a string with a length of %i"), Index, Len());
+	return Data[static_cast<SIZE_T>(Index)];
+}
+
+void FString::Empty(int32 Slack)
+{
+	Data.clear();
+	Data.reserve(static_cast<SIZE_T>(Slack));
+}
+
+FString& FString::Append(const FString& Text)
+{
+	Data += Text.Data;
+	return *this;
+}
+
+FString& FString::Append(const TCHAR* Text, int32 Count)
+{
+	Data.append(Text, static_cast<SIZE_T>(Count));
+	return *this;
+}
+
+FString& FString::AppendChar(TCHAR InChar)
+{
+	Data.push_back(InChar);
+	return *this;
+}
+
+FString& FString::operator/=(const FString& Str)
+{
+	if (!Data.empty() && Data.back() != u'/' && !(Str.Len() > 0 && Str.Data.front() == u'/'))
+	{
+		Data.push_back(u'/');
+	}
+	Data += Str.Data;
+	return *this;
+}
+
+bool FString::Equals(const FString& Other, ESearchCase::Type SearchCase) const
+{
+	return Data.size() == Other.Data.size() && CompareCharacters(Data, Other.Data, SearchCase) == 0;
+}
+
+int32 FString::Compare(const FString& Other, ESearchCase::Type SearchCase) const
+{
+	return CompareCharacters(Data, Other.Data, SearchCase);
+}
+
+int32 FString::Find(const TCHAR* SubStr, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir, int32 StartPosition) const
+{
+	const std::u16string_view Needle(SubStr ? SubStr : u"");
+	if (Needle.empty())
+	{
+		return INDEX_NONE;
+	}
+	const int32 NeedleLen = static_cast<int32>(Needle.size());
+	auto MatchesAt = [&](int32 Position) {
+		return CompareCharacters(std::u16string_view(Data).substr(static_cast<SIZE_T>(Position), Needle.size()), Needle, SearchCase) == 0;
+	};
+	if (SearchDir == ESearchDir::FromStart)
+	{
+		for (int32 Position = StartPosition == INDEX_NONE ? 0 : StartPosition; Position + NeedleLen <= Len(); ++Position)
+		{
+			if (MatchesAt(Position))
+			{
+				return Position;
+			}
+		}
+	}
+	else
+	{
+		int32 Position = (StartPosition == INDEX_NONE ? Len() : StartPosition) - NeedleLen;
+		for (; Position >= 0; --Position)
+		{
+			if (MatchesAt(Position))
+			{
+				return Position;
+			}
+		}
+	}
+	return INDEX_NONE;
+}
+
+bool FString::FindChar(TCHAR InChar, int32& Index) const
+{
+	const SIZE_T Found = Data.find(InChar);
+	Index = Found == std::u16string::npos ? INDEX_NONE : static_cast<int32>(Found);
+	return Index != INDEX_NONE;
+}
+
+bool FString::FindLastChar(TCHAR InChar, int32& Index) const
+{
+	const SIZE_T Found = Data.rfind(InChar);
+	Index = Found == std::u16string::npos ? INDEX_NONE : static_cast<int32>(Found);
+	return Index != INDEX_NONE;
+}
+
+bool FString::StartsWith(const FString& InPrefix, ESearchCase::Type SearchCase) const
+{
+	return InPrefix.Len() <= Len() && CompareCharacters(std::u16string_view(Data).substr(0, InPrefix.Data.size()), InPrefix.Data, SearchCase) == 0;
+}
+
+bool FString::EndsWith(const FString& InSuffix, ESearchCase::Type SearchCase) const
+{
+	return InSuffix.Len() <= Len() && CompareCharacters(std::u16string_view(Data).substr(Data.size() - InSuffix.Data.size()), InSuffix.Data, SearchCase) == 0;
+}
+
+FString FString::Left(int32 Count) const
+{
+	return FString(std::u16string_view(Data).substr(0, static_cast<SIZE_T>(Count < 0 ? 0 : Count)));
+}
+
+FString FString::LeftChop(int32 Count) const
+{
+	return Left(Len() - Count);
+}
+
+FString FString::Right(int32 Count) const
+{
+	const int32 Clamped = Count < 0 ? 0 : (Count > Len() ? Len() : Count);
+	return FString(std::u16string_view(Data).substr(Data.size() - static_cast<SIZE_T>(Clamped)));
+}
+
+FString FString::RightChop(int32 Count) const
+{
+	const int32 Clamped = Count < 0 ? 0 : (Count > Len() ? Len() : Count);
+	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(Clamped)));
+}
+
+FString FString::Mid(int32 Start, int32 Count) const
+{
+	const int32 ClampedStart = Start < 0 ? 0 : (Start > Len() ? Len() : Start);
+	const int32 Available = Len() - ClampedStart;
+	const int32 ClampedCount = Count < 0 ? 0 : (Count > Available ? Available : Count);
+	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(ClampedStart), static_cast<SIZE_T>(ClampedCount)));
+}
+
+bool FString::Split(const FString& InS, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
+{
+	const int32 Position = Find(*InS, SearchCase, SearchDir);
+	if (Position == INDEX_NONE)
+	{
+		return false;
+	}
+	if (LeftS)
+	{
+		*LeftS = Left(Position);
+	}
+	if (RightS)
+	{
+		*RightS = Mid(Position + InS.Len());
+	}
+	return true;
+}
+
+int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, bool InCullEmpty) const
+{
+	OutArray.Reset();
+	const std::u16string_view Delim(pchDelim);
+	SIZE_T Start = 0;
+	while (Start <= Data.size())
+	{
+		const SIZE_T Found = Delim.empty() ? std::u16string::npos : Data.find(Delim, Start);
+		const SIZE_T End = Found == std::u16string::npos ? Data.size() : Found;
+		FString Piece(std::u16string_view(Data).substr(Start, End - Start));
+		if (!InCullEmpty || !Piece.IsEmpty())
+		{
+			OutArray.Add(Piece);
+		}
+		if (Found == std::u16string::npos)
+		{
+			break;
+		}
+		Start = Found + Delim.size();
+	}
+	return OutArray.Num();
+}
+
+FString FString::ToUpper() const
+{
+	FString Result(*this);
+	for (TCHAR& Char : Result.Data)
+	{
+		Char = FChar::ToUpper(Char);
+	}
+	return Result;
+}
+
+FString FString::ToLower() const
+{
+	FString Result(*this);
+	for (TCHAR& Char : Result.Data)
+	{
+		Char = FChar::ToLower(Char);
+	}
+	return Result;
+}
+
+FString FString::TrimStart() const
+{
+	SIZE_T Start = 0;
+	while (Start < Data.size() && FChar::IsWhitespace(Data[Start]))
+	{
+		++Start;
+	}
+	return FString(std::u16string_view(Data).substr(Start));
+}
+
+FString FString::TrimEnd() const
+{
+	SIZE_T End = Data.size();
+	while (End > 0 && FChar::IsWhitespace(Data[End - 1]))
+	{
+		--End;
+	}
+	return FString(std::u16string_view(Data).substr(0, End));
+}
+
+FString FString::TrimStartAndEnd() const
+{
+	return TrimStart().TrimEnd();
+}
+
+FString FString::Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase) const
+{
+	const FString FromString(From);
+	if (FromString.IsEmpty())
+	{
+		return *this;
+	}
+	FString Result;
+	int32 Position = 0;
+	while (true)
+	{
+		const int32 Found = Find(From, SearchCase, ESearchDir::FromStart, Position);
+		if (Found == INDEX_NONE)
+		{
+			Result += Mid(Position);
+			return Result;
+		}
+		Result += Mid(Position, Found - Position);
+		Result += To;
+		Position = Found + FromString.Len();
+	}
+}
+
+bool FString::IsNumeric() const
+{
+	if (Data.empty())
+	{
+		return false;
+	}
+	SIZE_T Index = (Data[0] == u'-' || Data[0] == u'+') ? 1 : 0;
+	bool bHasDot = false;
+	bool bHasDigit = false;
+	for (; Index < Data.size(); ++Index)
+	{
+		if (Data[Index] == u'.' && !bHasDot)
+		{
+			bHasDot = true;
+		}
+		else if (FChar::IsDigit(Data[Index]))
+		{
+			bHasDigit = true;
+		}
+		else
+		{
+			return false;
+		}
+	}
+	return bHasDigit;
+}
+
+TArray<TCHAR> FString::GetCharArray() const
+{
+	TArray<TCHAR> Result(Data.c_str(), Len() + 1);
+	return Result;
+}
+
+FString FString::Printf(const TCHAR* Format, ...)
+{
+	va_list Args;
+	va_start(Args, Format);
+	FString Result = UE::Core::Private::FormatV(Format, Args);
+	va_end(Args);
+	return Result;
+}
+
+FString UE::Core::Private::FormatV(const TCHAR* Format, va_list Args)
+{
+	FString Result;
+	for (const TCHAR* Cursor = Format; Cursor && *Cursor; ++Cursor)
+	{
+		if (*Cursor != u'%')
+		{
+			Result.AppendChar(*Cursor);
+			continue;
+		}
+		// Collect the conversion spec in narrow form for vsnprintf.
+		std::string Spec = "%";
+		++Cursor;
+		while (*Cursor && std::string("-+ #0123456789.").find(static_cast<char>(*Cursor)) != std::string::npos)
+		{
+			Spec.push_back(static_cast<char>(*Cursor++));
+		}
+		std::string Length;
+		while (*Cursor == u'l' || *Cursor == u'h' || *Cursor == u'z' || *Cursor == u'j')
+		{
+			Length.push_back(static_cast<char>(*Cursor++));
+		}
+		const TCHAR Conversion = *Cursor;
+		switch (Conversion)
+		{
+			case u'%':
+				Result.AppendChar(u'%');
+				break;
+			case u's':
+			{
+				const TCHAR* Str = va_arg(Args, const TCHAR*);
+				Result += Str ? Str : TEXT("(null)");
+				break;
+			}
+			case u'c':
+				Result.AppendChar(static_cast<TCHAR>(va_arg(Args, int)));
+				break;
+			case u'd':
+			case u'i':
+			case u'u':
+			case u'x':
+			case u'X':
+				Spec += Length;
+				Spec.push_back(static_cast<char>(Conversion));
+				if (Length == "ll" || Length == "l" || Length == "z" || Length == "j")
+				{
+					Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, long long));
+				}
+				else
+				{
+					Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, int));
+				}
+				break;
+			case u'f':
+			case u'g':
+			case u'e':
+				Spec.push_back(static_cast<char>(Conversion));
+				Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, double));
+				break;
+			case u'p':
+				Result += FormatWithPrintf("%p", va_arg(Args, void*));
+				break;
+			default:
+				checkf(false, TEXT("Unsupported format conversion in FString::Printf"));
+		}
+		if (!*Cursor)
+		{
+			break;
+		}
+	}
+	return Result;
+}
+
+FString FString::FromInt(int32 Num)
+{
+	return LexToString(Num);
+}
+
+FString FString::Chr(TCHAR Ch)
+{
+	FString Result;
+	Result.AppendChar(Ch);
+	return Result;
+}
+
+FString FString::ChrN(int32 NumCharacters, TCHAR Char)
+{
+	FString Result;
+	Result.Data.assign(static_cast<SIZE_T>(NumCharacters), Char);
+	return Result;
+}
+
+std::string FString::ToUtf8() const
+{
+	return Utf16ToUtf8(Data);
+}
+
+FString FString::FromUtf8(std::string_view Utf8)
+{
+	return FString(std::u16string_view(Utf8ToUtf16(Utf8)));
+}
+
+uint32 GetTypeHash(const FString& S)
+{
+	// Case-insensitive, like the engine's string hash, so that equal strings hash alike.
+	uint32 Hash = 2166136261u;
+	for (TCHAR Char : S)
+	{
+		Hash = (Hash ^ FChar::ToLower(Char)) * 16777619u;
+	}
+	return Hash;
+}
+
+bool FChar::IsWhitespace(TCHAR Char)
+{
+	switch (Char)
+	{
+		case 0x0009:
+		case 0x000A:
+		case 0x000B:
+		case 0x000C:
+		case 0x000D:
+		case 0x0020:
+		case 0x0085:
+		case 0x00A0:
+		case 0x1680:
+		case 0x2028:
+		case 0x2029:
+		case 0x202F:
+		case 0x205F:
+		case 0x3000:
+			return true;
+		default:
+			return Char >= 0x2000 && Char <= 0x200A;
+	}
+}
+
+FString LexToString(int32 Value)
+{
+	return FString(std::to_string(Value).c_str());
+}
+
+FString LexToString(uint64 Value)
+{
+	return FString(std::to_string(Value).c_str());
+}
+
+FString LexToString(double Value)
+{
+	return FormatWithPrintf("%f", Value);
+}

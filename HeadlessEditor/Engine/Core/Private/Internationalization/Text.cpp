@@ -1,0 +1,380 @@
+#include "Internationalization/Text.h"
+
+#include <cmath>
+#include <cstdio>
+#include <string>
+
+namespace
+{
+	// Numbers are shown as the engine's default (English) culture shows them: grouped by thousands.
+	FString GroupDigits(const std::string& Digits)
+	{
+		std::string Grouped;
+		const SIZE_T Start = (!Digits.empty() && Digits[0] == '-') ? 1 : 0;
+		for (SIZE_T Index = 0; Index < Digits.size(); ++Index)
+		{
+			if (Index > Start && (Digits.size() - Index) % 3 == 0)
+			{
+				Grouped.push_back(',');
+			}
+			Grouped.push_back(Digits[Index]);
+		}
+		return FString(Grouped.c_str());
+	}
+
+	FString FormatInteger(int64 Value)
+	{
+		return GroupDigits(std::to_string(Value));
+	}
+
+	FString FormatUnsigned(uint64 Value)
+	{
+		return GroupDigits(std::to_string(Value));
+	}
+
+	FString FormatDouble(double Value)
+	{
+		// At most three fractional digits, trailing zeros dropped, as the default formatting options do.
+		char Buffer[64];
+		std::snprintf(Buffer, sizeof(Buffer), "%.3f", Value);
+		std::string Text(Buffer);
+		while (!Text.empty() && Text.back() == '0')
+		{
+			Text.pop_back();
+		}
+		if (!Text.empty() && Text.back() == '.')
+		{
+			Text.pop_back();
+		}
+		const SIZE_T Dot = Text.find('.');
+		const std::string IntegerPart = Text.substr(0, Dot);
+		const std::string Fraction = Dot == std::string::npos ? std::string() : Text.substr(Dot);
+		return GroupDigits(IntegerPart) + FString(Fraction.c_str());
+	}
+
+	template <typename LookupType>
+	FString ApplyPattern(const FString& Pattern, const LookupType& Lookup)
+	{
+		FString Result;
+		const int32 Length = Pattern.Len();
+		for (int32 Index = 0; Index < Length; ++Index)
+		{
+			const TCHAR Char = Pattern[Index];
+			if (Char == u'`' && Index + 1 < Length && (Pattern[Index + 1] == u'{' || Pattern[Index + 1] == u'}' || Pattern[Index + 1] == u'`'))
+			{
+				Result.AppendChar(Pattern[++Index]);
+				continue;
+			}
+			if (Char == u'{')
+			{
+				int32 Close = INDEX_NONE;
+				for (int32 Scan = Index + 1; Scan < Length; ++Scan)
+				{
+					if (Pattern[Scan] == u'}')
+					{
+						Close = Scan;
+						break;
+					}
+				}
+				if (Close != INDEX_NONE)
+				{
+					const FString ArgumentName = Pattern.Mid(Index + 1, Close - Index - 1);
+					const FFormatArgumentValue* Argument = Lookup(ArgumentName);
+					// An argument that was not given stays in the text, as the engine leaves it.
+					Result += Argument ? Argument->ToFormattedString() : Pattern.Mid(Index, Close - Index + 1);
+					Index = Close;
+					continue;
+				}
+			}
+			Result.AppendChar(Char);
+		}
+		return Result;
+	}
+}
+
+FText::FText()
+	: Data(std::make_shared<const FData>())
+{
+}
+
+FText::FText(std::shared_ptr<const FData> InData)
+	: Data(std::move(InData))
+{
+}
+
+const FText& FText::GetEmpty()
+{
+	static const FText* Empty = new FText();
+	return *Empty;
+}
+
+FText FText::FromString(const FString& String)
+{
+	auto NewData = std::make_shared<FData>();
+	NewData->Display = String;
+	return FText(NewData);
+}
+
+FText FText::FromString(FString&& String)
+{
+	auto NewData = std::make_shared<FData>();
+	NewData->Display = MoveTemp(String);
+	return FText(NewData);
+}
+
+FText FText::FromName(const FName& Val)
+{
+	return FromString(Val.ToString());
+}
+
+FText FText::FromStringView(FStringView InString)
+{
+	return FromString(FString(InString.Len(), InString.GetData()));
+}
+
+FText FText::AsCultureInvariant(const FString& String)
+{
+	auto NewData = std::make_shared<FData>();
+	NewData->Display = String;
+	NewData->bCultureInvariant = true;
+	return FText(NewData);
+}
+
+FText FText::AsCultureInvariant(FText Text)
+{
+	return AsCultureInvariant(Text.ToString());
+}
+
+#define CASTELLAN_TEXT_AS_NUMBER(Type, Formatter) \
+	FText FText::AsNumber(Type Val, const FNumberFormattingOptions* const, const FCulturePtr&) \
+	{ \
+		return FromString(Formatter(Val)); \
+	}
+CASTELLAN_TEXT_AS_NUMBER(float, FormatDouble)
+CASTELLAN_TEXT_AS_NUMBER(double, FormatDouble)
+CASTELLAN_TEXT_AS_NUMBER(int8, FormatInteger)
+CASTELLAN_TEXT_AS_NUMBER(int16, FormatInteger)
+CASTELLAN_TEXT_AS_NUMBER(int32, FormatInteger)
+CASTELLAN_TEXT_AS_NUMBER(int64, FormatInteger)
+CASTELLAN_TEXT_AS_NUMBER(long, FormatInteger)
+CASTELLAN_TEXT_AS_NUMBER(uint8, FormatUnsigned)
+CASTELLAN_TEXT_AS_NUMBER(uint16, FormatUnsigned)
+CASTELLAN_TEXT_AS_NUMBER(uint32, FormatUnsigned)
+CASTELLAN_TEXT_AS_NUMBER(uint64, FormatUnsigned)
+#undef CASTELLAN_TEXT_AS_NUMBER
+
+FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
+{
+	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name) { return InArguments.Find(Name); }));
+}
+
+FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments)
+{
+	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name) -> const FFormatArgumentValue* {
+		if (!Name.IsNumeric())
+		{
+			return nullptr;
+		}
+		const int32 Index = std::stoi(Name.ToUtf8());
+		return InArguments.IsValidIndex(Index) ? &InArguments[Index] : nullptr;
+	}));
+}
+
+const FString& FText::ToString() const
+{
+	return Data->Display;
+}
+
+bool FText::IsEmpty() const
+{
+	return Data->Display.IsEmpty();
+}
+
+bool FText::IsEmptyOrWhitespace() const
+{
+	for (const TCHAR Character : Data->Display)
+	{
+		if (!FChar::IsWhitespace(Character))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+bool FText::IsCultureInvariant() const
+{
+	return Data->bCultureInvariant;
+}
+
+FText FText::ToUpper() const
+{
+	return FromString(Data->Display.ToUpper());
+}
+
+FText FText::ToLower() const
+{
+	return FromString(Data->Display.ToLower());
+}
+
+bool FText::EqualTo(const FText& Other) const
+{
+	return Data->Display.Equals(Other.Data->Display, ESearchCase::CaseSensitive);
+}
+
+bool FText::EqualToCaseIgnored(const FText& Other) const
+{
+	return Data->Display.Equals(Other.Data->Display, ESearchCase::IgnoreCase);
+}
+
+bool FText::IdenticalTo(const FText& Other) const
+{
+	return Data == Other.Data;
+}
+
+FText FText::MakeLocalized(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
+{
+	auto NewData = std::make_shared<FData>();
+	NewData->Display = InTextLiteral;
+	NewData->Namespace = FString(InNamespace);
+	NewData->Key = FString(InKey);
+	return FText(NewData);
+}
+
+TOptional<FString> FTextInspector::GetNamespace(const FText& Text)
+{
+	return Text.Data->Namespace;
+}
+
+TOptional<FString> FTextInspector::GetKey(const FText& Text)
+{
+	return Text.Data->Key;
+}
+
+const FString* FTextInspector::GetSourceString(const FText& Text)
+{
+	return &Text.Data->Display;
+}
+
+const FString& FTextInspector::GetDisplayString(const FText& Text)
+{
+	return Text.Data->Display;
+}
+
+FFormatArgumentValue::FFormatArgumentValue() = default;
+FFormatArgumentValue::FFormatArgumentValue(const int32 InValue)
+	: Value(static_cast<int64>(InValue))
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const uint32 InValue)
+	: Value(static_cast<uint64>(InValue))
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const int64 InValue)
+	: Value(InValue)
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const uint64 InValue)
+	: Value(InValue)
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const float InValue)
+	: Value(static_cast<double>(InValue))
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const double InValue)
+	: Value(InValue)
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(const FText& InValue)
+	: Value(InValue)
+{
+}
+FFormatArgumentValue::FFormatArgumentValue(FText&& InValue)
+	: Value(MoveTemp(InValue))
+{
+}
+
+FString FFormatArgumentValue::ToFormattedString() const
+{
+	if (const int64* Signed = std::get_if<int64>(&Value))
+	{
+		return FormatInteger(*Signed);
+	}
+	if (const uint64* Unsigned = std::get_if<uint64>(&Value))
+	{
+		return FormatUnsigned(*Unsigned);
+	}
+	if (const double* Double = std::get_if<double>(&Value))
+	{
+		return FormatDouble(*Double);
+	}
+	if (const FText* Text = std::get_if<FText>(&Value))
+	{
+		return Text->ToString();
+	}
+	return FString();
+}
+
+FTextFormat::FTextFormat() = default;
+
+FTextFormat::FTextFormat(const FText& InText)
+	: SourceText(InText)
+{
+}
+
+void FTextBuilder::Indent()
+{
+	++IndentCount;
+}
+
+void FTextBuilder::Unindent()
+{
+	--IndentCount;
+}
+
+void FTextBuilder::AppendLine()
+{
+	Lines.Add(FString());
+}
+
+void FTextBuilder::AppendLine(const FText& Text)
+{
+	AppendLine(Text.ToString());
+}
+
+void FTextBuilder::AppendLine(const FString& String)
+{
+	Lines.Add(FString::ChrN(IndentCount * 4, u' ') + String);
+}
+
+void FTextBuilder::AppendLine(const FName& Name)
+{
+	AppendLine(Name.ToString());
+}
+
+void FTextBuilder::AppendLineFormat(const FTextFormat& Pattern, const FFormatOrderedArguments& Arguments)
+{
+	AppendLine(FText::Format(Pattern, Arguments));
+}
+
+void FTextBuilder::AppendLineFormat(const FTextFormat& Pattern, const FFormatNamedArguments& Arguments)
+{
+	AppendLine(FText::Format(Pattern, Arguments));
+}
+
+void FTextBuilder::Clear()
+{
+	Lines.Reset();
+	IndentCount = 0;
+}
+
+bool FTextBuilder::IsEmpty()
+{
+	return Lines.IsEmpty();
+}
+
+FText FTextBuilder::ToText() const
+{
+	return FText::FromString(FString::Join(Lines, TEXT("\n")));
+}

@@ -1,0 +1,129 @@
+#include "Modules/ModuleManager.h"
+
+#include <algorithm>
+
+FModuleManager& FModuleManager::Get()
+{
+	static FModuleManager* Manager = new FModuleManager();
+	return *Manager;
+}
+
+void FModuleManager::RegisterStaticallyLinkedModule(const FName InModuleName, FInitializeModuleFunctionPtr InInitializerFunction)
+{
+	FModuleManager& Manager = Get();
+	if (FModuleInfo* Existing = Manager.FindModule(InModuleName))
+	{
+		Existing->Initializer = InInitializerFunction;
+		return;
+	}
+	auto Info = std::make_shared<FModuleInfo>();
+	Info->Name = InModuleName;
+	Info->Initializer = InInitializerFunction;
+	Manager.Modules.Add(Info);
+}
+
+FModuleManager::FModuleInfo* FModuleManager::FindModule(const FName InModuleName)
+{
+	for (const std::shared_ptr<FModuleInfo>& Info : Modules)
+	{
+		if (Info->Name == InModuleName)
+		{
+			return Info.get();
+		}
+	}
+	return nullptr;
+}
+
+const FModuleManager::FModuleInfo* FModuleManager::FindModule(const FName InModuleName) const
+{
+	return const_cast<FModuleManager*>(this)->FindModule(InModuleName);
+}
+
+bool FModuleManager::IsModuleLoaded(const FName InModuleName) const
+{
+	const FModuleInfo* Info = FindModule(InModuleName);
+	return Info && Info->Module;
+}
+
+bool FModuleManager::ModuleExists(const TCHAR* ModuleName) const
+{
+	return FindModule(FName(ModuleName)) != nullptr;
+}
+
+IModuleInterface* FModuleManager::LoadModule(const FName InModuleName, ELoadModuleFlags InLoadModuleFlags)
+{
+	FModuleInfo* Info = FindModule(InModuleName);
+	if (!Info || !Info->Initializer)
+	{
+		return nullptr;
+	}
+	if (!Info->Module)
+	{
+		Info->Module.reset(Info->Initializer());
+		Info->LoadOrder = NextLoadOrder++;
+		Info->Module->StartupModule();
+	}
+	return Info->Module.get();
+}
+
+IModuleInterface& FModuleManager::LoadModuleChecked(const FName InModuleName)
+{
+	IModuleInterface* Module = LoadModule(InModuleName);
+	checkf(Module, TEXT("%s"), *FString::Printf(TEXT("ModuleManager: Unable to load module '%s'"), *InModuleName.ToString()));
+	return *Module;
+}
+
+IModuleInterface* FModuleManager::GetModule(const FName InModuleName)
+{
+	FModuleInfo* Info = FindModule(InModuleName);
+	return Info ? Info->Module.get() : nullptr;
+}
+
+bool FModuleManager::UnloadModule(const FName InModuleName, bool bIsShutdown)
+{
+	FModuleInfo* Info = FindModule(InModuleName);
+	if (!Info || !Info->Module)
+	{
+		return false;
+	}
+	Info->Module->ShutdownModule();
+	Info->Module.reset();
+	Info->LoadOrder = INDEX_NONE;
+	return true;
+}
+
+void FModuleManager::UnloadModulesAtShutdown()
+{
+	TArray<FModuleInfo*> Loaded;
+	for (const std::shared_ptr<FModuleInfo>& Info : Modules)
+	{
+		if (Info->Module)
+		{
+			Loaded.Add(Info.get());
+		}
+	}
+	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B) { return A->LoadOrder > B->LoadOrder; });
+	for (FModuleInfo* Info : Loaded)
+	{
+		UnloadModule(Info->Name, true);
+	}
+}
+
+TArray<FName> FModuleManager::GetLoadedModuleNames() const
+{
+	TArray<const FModuleInfo*> Loaded;
+	for (const std::shared_ptr<FModuleInfo>& Info : Modules)
+	{
+		if (Info->Module)
+		{
+			Loaded.Add(Info.get());
+		}
+	}
+	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B) { return A->LoadOrder < B->LoadOrder; });
+	TArray<FName> Names;
+	for (const FModuleInfo* Info : Loaded)
+	{
+		Names.Add(Info->Name);
+	}
+	return Names;
+}

@@ -1,0 +1,78 @@
+#include "UObject/NameTypes.h"
+
+#include <memory>
+#include <mutex>
+#include <string>
+#include <unordered_map>
+
+struct FName::FEntry
+{
+	FString Display;
+	/** Lower-cased key shared by every spelling of the name. */
+	std::u16string Comparison;
+};
+
+namespace
+{
+	std::u16string MakeComparisonKey(const FString& Name)
+	{
+		return Name.ToLower().GetStdString();
+	}
+
+	struct FNameTable
+	{
+		std::mutex Mutex;
+		std::unordered_map<std::u16string, std::unique_ptr<FName::FEntry>> BySpelling;
+	};
+
+	FNameTable& GetNameTable()
+	{
+		static FNameTable* Table = new FNameTable();
+		return *Table;
+	}
+}
+
+FName::FName(const WIDECHAR* Name, EFindName FindType)
+{
+	if (Name && *Name)
+	{
+		FNameTable& Table = GetNameTable();
+		std::lock_guard<std::mutex> Lock(Table.Mutex);
+		std::unique_ptr<FEntry>& Slot = Table.BySpelling[std::u16string(Name)];
+		if (!Slot)
+		{
+			Slot = std::make_unique<FEntry>();
+			Slot->Display = FString(Name);
+			Slot->Comparison = MakeComparisonKey(Slot->Display);
+		}
+		Entry = Slot.get();
+	}
+}
+
+FName::FName(const ANSICHAR* Name, EFindName FindType)
+	: FName(Name ? *FString(Name) : static_cast<const WIDECHAR*>(nullptr), FindType)
+{
+}
+
+FString FName::ToString() const
+{
+	return Entry ? Entry->Display : FString(TEXT("None"));
+}
+
+bool FName::IsEqual(const FName& Other) const
+{
+	if (Entry == Other.Entry)
+	{
+		return true;
+	}
+	if (!Entry || !Other.Entry)
+	{
+		return false;
+	}
+	return Entry->Comparison == Other.Entry->Comparison;
+}
+
+uint32 GetTypeHash(const FName& Name)
+{
+	return Name.Entry ? static_cast<uint32>(std::hash<std::u16string>()(Name.Entry->Comparison)) : 0u;
+}

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "Templates/SharedPointer.h"

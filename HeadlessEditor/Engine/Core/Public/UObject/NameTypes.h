@@ -1,0 +1,66 @@
+#pragma once
+
+#include "CoreTypes.h"
+#include "Containers/UnrealString.h"
+
+#include <memory>
+
+enum EName : uint32
+{
+	NAME_None = 0,
+};
+
+enum EFindName
+{
+	FNAME_Find,
+	FNAME_Add,
+};
+
+/** Characters that object names may not contain. */
+#define INVALID_OBJECTNAME_CHARACTERS TEXT("\"' ,/.:|&!~\n\r\t@#(){}[]=;^%$`")
+#define INVALID_LONGPACKAGE_CHARACTERS TEXT("\\:*?\"<>|' ,.&!~\n\r\t@#")
+
+/**
+ * A case-insensitive, case-preserving name, as editor builds of the engine keep them. Each distinct
+ * spelling is stored once, so copies and comparisons are cheap.
+ */
+class CORE_API FName
+{
+public:
+	FName() = default;
+	FName(EName N)
+	{
+	}
+	FName(const WIDECHAR* Name, EFindName FindType = FNAME_Add);
+	FName(const ANSICHAR* Name, EFindName FindType = FNAME_Add);
+
+	FString ToString() const;
+	void ToString(FString& Out) const { Out = ToString(); }
+	FString GetPlainNameString() const { return ToString(); }
+	bool IsNone() const { return !Entry; }
+	bool IsValid() const { return true; }
+	bool IsEqual(const FName& Other) const;
+
+	friend bool operator==(const FName& A, const FName& B) { return A.IsEqual(B); }
+	friend bool operator!=(const FName& A, const FName& B) { return !A.IsEqual(B); }
+	friend bool operator==(const FName& A, EName B) { return A.IsEqual(FName(B)); }
+	friend bool operator!=(const FName& A, EName B) { return !A.IsEqual(FName(B)); }
+	/** Lexical order ignoring case, as FName::LexicalLess does. */
+	bool LexicalLess(const FName& Other) const { return ToString().Compare(Other.ToString(), ESearchCase::IgnoreCase) < 0; }
+	friend bool operator<(const FName& A, const FName& B) { return A.LexicalLess(B); }
+
+	friend CORE_API uint32 GetTypeHash(const FName& Name);
+
+	/** One spelling of a name in the process-wide name table. */
+	struct FEntry;
+
+private:
+	const FEntry* Entry = nullptr;
+};
+
+CORE_API uint32 GetTypeHash(const FName& Name);
+
+inline FString LexToString(const FName& Name)
+{
+	return Name.ToString();
+}
