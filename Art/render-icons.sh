@@ -44,7 +44,7 @@ done
 # Contact sheet (kept out of Resources/, which ships only the icons).
 tmp="$(mktemp --suffix=.svg)"
 trap 'rm -f "$tmp"' EXIT
-python3 Art/contact-sheet.py >"$tmp"
+PYTHONDONTWRITEBYTECODE=1 python3 Art/contact-sheet.py >"$tmp"
 rsvg-convert --format png "$tmp" --output Art/contact-sheet.png
 
 echo "Rendered $((4 + 2 * ${#classes[@]})) icons and Art/contact-sheet.png"
