@@ -59,6 +59,7 @@ function(ue_add_module Name)
 	set_target_properties(${Name} PROPERTIES
 		OUTPUT_NAME "UnrealEditor-${Name}"
 		LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/Binaries")
+	set_property(GLOBAL APPEND PROPERTY HEADLESS_EDITOR_MODULES ${Name})
 	if(ARG_WARNINGS_AS_ERRORS)
 		target_compile_options(${Name} PRIVATE -Wall -Wextra -Werror -Wno-unused-parameter)
 	endif()
