@@ -148,6 +148,12 @@ public:
 		Data.insert(Data.begin() + Index, Item);
 		return Index;
 	}
+	int32 Insert(InElementType&& Item, int32 Index)
+	{
+		check(Index >= 0 && Index <= Num());
+		Data.insert(Data.begin() + Index, MoveTemp(Item));
+		return Index;
+	}
 	template <typename OtherAllocator>
 	void Append(const TArray<InElementType, OtherAllocator>& Source)
 	{

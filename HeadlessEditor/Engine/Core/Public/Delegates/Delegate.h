@@ -49,6 +49,14 @@ public:
 	using RetValType = InRetValType;
 	using FFuncType = InRetValType(ParamTypes...);
 
+	/** Function and method pointer types that bind to this signature with the given payload types. */
+	template <typename... VarTypes>
+	using TFuncPtr = InRetValType (*)(ParamTypes..., VarTypes...);
+	template <typename UserClass, typename... VarTypes>
+	using TMethodPtr = typename TMemFunPtrType<false, UserClass, InRetValType(ParamTypes..., VarTypes...)>::Type;
+	template <typename UserClass, typename... VarTypes>
+	using TConstMethodPtr = typename TMemFunPtrType<true, UserClass, InRetValType(ParamTypes..., VarTypes...)>::Type;
+
 	TDelegate() = default;
 	TDelegate(TYPE_OF_NULLPTR)
 	{

@@ -1,0 +1,49 @@
+#include "Framework/Docking/WorkspaceItem.h"
+
+FWorkspaceItem::FWorkspaceItem(const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren)
+	: Icon(InIcon)
+	, DisplayNameAttribute(InDisplayName)
+	, TooltipTextAttribute(FText::GetEmpty())
+	, bSortChildren(bInSortChildren)
+{
+}
+
+FWorkspaceItem::FWorkspaceItem(const FName& InTabId, const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren)
+	: FWorkspaceItem(InDisplayName, InIcon, bInSortChildren)
+{
+}
+
+TSharedRef<FWorkspaceItem> FWorkspaceItem::NewGroup(const FText& DisplayName, const FSlateIcon& Icon, const bool bSortChildren)
+{
+	return MakeShared<FWorkspaceItem>(DisplayName, Icon, bSortChildren);
+}
+
+TSharedRef<FWorkspaceItem> FWorkspaceItem::NewGroup(const FText& DisplayName, const FText& TooltipText, const FSlateIcon& Icon, const bool bSortChildren)
+{
+	TSharedRef<FWorkspaceItem> Group = MakeShared<FWorkspaceItem>(DisplayName, Icon, bSortChildren);
+	Group->TooltipTextAttribute = TooltipText;
+	return Group;
+}
+
+TSharedRef<FWorkspaceItem> FWorkspaceItem::AddGroup(const FText& InDisplayName, const FSlateIcon& InIcon, const bool InSortChildren)
+{
+	TSharedRef<FWorkspaceItem> NewItem = FWorkspaceItem::NewGroup(InDisplayName, InIcon, InSortChildren);
+	AddItem(NewItem);
+	return NewItem;
+}
+
+void FWorkspaceItem::AddItem(const TSharedRef<FWorkspaceItem>& ItemToAdd)
+{
+	ItemToAdd->ParentItem = AsShared();
+	ChildItems.Add(ItemToAdd);
+}
+
+void FWorkspaceItem::RemoveItem(const TSharedRef<FWorkspaceItem>& ItemToRemove)
+{
+	ChildItems.Remove(ItemToRemove);
+}
+
+void FWorkspaceItem::ClearItems()
+{
+	ChildItems.Empty();
+}

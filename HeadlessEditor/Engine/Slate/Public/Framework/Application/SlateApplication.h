@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Application/SlateApplicationBase.h"
+#include "CoreMinimal.h"
+#include "Input/Events.h"
+#include "Rendering/SlateRenderer.h"
+
+class SWidget;
+
+/** The Slate application: keyboard focus, input routing and the renderer. It opens no window here. */
+class SLATE_API FSlateApplication : public FSlateApplicationBase
+{
+public:
+	virtual ~FSlateApplication();
+
+	/** Creates the application; a second Create is a fatal error. */
+	static void Create();
+	static void Shutdown(bool bShutdownPlatform = true);
+
+	static bool IsInitialized() { return CurrentApplication.IsValid(); }
+	static FSlateApplication& Get()
+	{
+		check(IsInitialized());
+		return *CurrentApplication;
+	}
+
+	/** Sets the renderer that GetRenderer returns. */
+	virtual bool InitializeRenderer(TSharedRef<FSlateRenderer> InRenderer, bool bQuietMode = false);
+
+	/** Gives keyboard focus to a widget that supports it; @return whether the focus is now on it. */
+	bool SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
+	void ClearKeyboardFocus(const EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
+	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const override;
+
+	/**
+	 * Sends a key press to the focused widget, then to each of its ancestors in turn until one handles
+	 * it. @return whether a widget handled it.
+	 */
+	bool ProcessKeyDownEvent(const FKeyEvent& InKeyEvent);
+
+	virtual TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) override;
+	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) override;
+
+private:
+	FSlateApplication() = default;
+
+	static TSharedPtr<FSlateApplication> CurrentApplication;
+
+	TWeakPtr<SWidget> KeyboardFocusedWidget;
+};

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SCompoundWidget.h"
+
+/** Delegate that is executed when the check box state changes */
+DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState);
+
+namespace ESlateCheckBoxType
+{
+	enum Type : int
+	{
+		/** A traditional check box with check button and label (or other content) */
+		CheckBox,
+		/** A toggle button. You specify button content. */
+		ToggleButton,
+	};
+}
+
+/** A box the user can check and uncheck, with any content beside it. */
+class SLATE_API SCheckBox : public SCompoundWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SCheckBox)
+		: _Content()
+		, _Style(&FCheckBoxStyle::GetDefault())
+		, _IsChecked(ECheckBoxState::Unchecked)
+		, _HAlign(HAlign_Fill)
+		, _IsFocusable(true)
+		{
+		}
+		/** Content to be placed next to the check box, or for a toggle button, the content to be placed inside the button */
+		SLATE_DEFAULT_SLOT(FArguments, Content)
+		/** The style structure for this checkbox' visual style */
+		SLATE_STYLE_ARGUMENT(FCheckBoxStyle, Style)
+		/** Type of check box (set by the Style arg but the Style can be overridden with this) */
+		SLATE_ARGUMENT(TOptional<ESlateCheckBoxType::Type>, Type)
+		/** Called when the checked state has changed */
+		SLATE_EVENT(FOnCheckStateChanged, OnCheckStateChanged)
+		/** Whether the check box is currently in a checked state */
+		SLATE_ATTRIBUTE(ECheckBoxState, IsChecked)
+		/** How the content of the toggle button should align within the given space */
+		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
+		/** Spacing between the check box image and its content (set by the Style arg but the Style can be overridden with this) */
+		SLATE_ATTRIBUTE(FMargin, Padding)
+		/** Sometimes a button should only be mouse-clickable and never keyboard focusable. */
+		SLATE_ARGUMENT(bool, IsFocusable)
+		SLATE_END_ARGS()
+
+		SCheckBox();
+		void Construct(const FArguments& InArgs);
+
+		virtual bool SupportsKeyboardFocus() const override { return bIsFocusable; }
+		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+		virtual bool IsInteractable() const override { return IsEnabled(); }
+
+		/** @return true if the checkbox is currently checked */
+		bool IsChecked() const { return IsCheckboxChecked.Get() == ECheckBoxState::Checked; }
+
+		/** @return The current checked state of the checkbox. */
+		ECheckBoxState GetCheckedState() const { return IsCheckboxChecked.Get(); }
+
+		/** Toggles the checked state for this check box, fire events as needed */
+		void ToggleCheckedState();
+
+		/** Sets the checked state; it does not fire OnCheckStateChanged. */
+		void SetIsChecked(TAttribute<ECheckBoxState> InIsChecked) { IsCheckboxChecked = MoveTemp(InIsChecked); }
+
+		/** Set the content of the check box. */
+		void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
+
+	private:
+		TAttribute<ECheckBoxState> IsCheckboxChecked;
+		FOnCheckStateChanged OnCheckStateChanged;
+		bool bIsFocusable;
+};

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Framework/SlateDelegates.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/Layout/SBorder.h"
+
+/** A single line of text the user can edit, in a box. */
+class SLATE_API SEditableTextBox : public SBorder
+{
+public:
+	SLATE_BEGIN_ARGS(SEditableTextBox)
+		: _Style(&FEditableTextBoxStyle::GetDefault())
+		, _Text()
+		, _HintText()
+		, _Font()
+		, _IsReadOnly(false)
+		, _SelectAllTextWhenFocused(false)
+		, _RevertTextOnEscape(false)
+		, _ClearKeyboardFocusOnCommit(true)
+		{
+		}
+		/** The styling of the textbox */
+		SLATE_STYLE_ARGUMENT(FEditableTextBoxStyle, Style)
+		/** Sets the text content for this editable text box widget */
+		SLATE_ATTRIBUTE(FText, Text)
+		/** Hint text that appears when there is no text in the text box */
+		SLATE_ATTRIBUTE(FText, HintText)
+		/** Font color and opacity (overrides Style) */
+		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+		/** Sets whether this text box can actually be modified interactively by the user */
+		SLATE_ATTRIBUTE(bool, IsReadOnly)
+		/** Whether to select all text when the user clicks to give focus on the widget */
+		SLATE_ATTRIBUTE(bool, SelectAllTextWhenFocused)
+		/** Whether to allow the user to back out of changes when they press the escape key */
+		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
+		/** Whether to clear keyboard focus when pressing enter to commit changes */
+		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
+		/** Called whenever the text is changed programmatically or interactively by the user */
+		SLATE_EVENT(FOnTextChanged, OnTextChanged)
+		/** Called whenever the text is committed.  This happens when the user presses enter or the text box loses focus. */
+		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+		SLATE_END_ARGS()
+
+		SEditableTextBox();
+		void Construct(const FArguments& InArgs);
+
+		/** Returns the text string shown: the bound text, or what the user typed while it is being edited. */
+		FText GetText() const;
+
+		/** Sets the text, as a value or a binding; it does not fire OnTextChanged. */
+		void SetText(const TAttribute<FText>& InNewText);
+
+		FText GetHintText() const { return HintText.Get(); }
+		void SetHintText(const TAttribute<FText>& InHintText) { HintText = InHintText; }
+		void SetFont(const TAttribute<FSlateFontInfo>& InFont) { Font = InFont; }
+		void SetIsReadOnly(TAttribute<bool> InIsReadOnly) { IsReadOnly = MoveTemp(InIsReadOnly); }
+
+		virtual bool SupportsKeyboardFocus() const override { return true; }
+		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+
+	private:
+		// The headless test driver types into the box as a user would.
+		friend class FWidgetDriver;
+
+		/** The user changed the text: it is shown, kept in an unbound text attribute and reported. */
+		void HandleUserEdit(const FText& InNewText);
+		/** The user committed the text: it is reported, then a bound text is read again. */
+		void HandleCommit(ETextCommit::Type CommitType);
+
+		TAttribute<FText> BoundText;
+		FText EditedText;
+		bool bIsEditing;
+		TAttribute<FText> HintText;
+		TAttribute<FSlateFontInfo> Font;
+		TAttribute<bool> IsReadOnly;
+		TAttribute<bool> RevertTextOnEscape;
+		FText TextAtEditStart;
+		FOnTextChanged OnTextChanged;
+		FOnTextCommitted OnTextCommitted;
+};

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
+#include "Framework/Text/TextLayout.h"
+#include "Styling/SlateColor.h"
+#include "Styling/SlateTypes.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SLeafWidget.h"
+
+/** A simple static text widget. */
+class SLATE_API STextBlock : public SLeafWidget
+{
+public:
+	SLATE_BEGIN_ARGS(STextBlock)
+		: _Text()
+		, _TextStyle(&FTextBlockStyle::GetDefault())
+		, _Font()
+		, _ColorAndOpacity()
+		, _Margin()
+		, _Justification(ETextJustify::Left)
+		, _AutoWrapText(false)
+		, _WrapTextAt(0.0f)
+		, _MinDesiredWidth(0.0f)
+		{
+		}
+		/** The text displayed in this text block */
+		SLATE_ATTRIBUTE(FText, Text)
+		/** Pointer to a style of the text block, which dictates the font, color, and shadow options. */
+		SLATE_STYLE_ARGUMENT(FTextBlockStyle, TextStyle)
+		/** Sets the font used to draw the text */
+		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+		/** Text color and opacity */
+		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
+		/** The amount of blank space left around the edges of text area. */
+		SLATE_ATTRIBUTE(FMargin, Margin)
+		/** How the text should be aligned with the margin. */
+		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+		/** Whether to wrap text automatically based on the widget's computed horizontal space. */
+		SLATE_ATTRIBUTE(bool, AutoWrapText)
+		/** Whether text wraps onto a new line when it's length exceeds this width; if this value is zero or negative, no wrapping occurs. */
+		SLATE_ATTRIBUTE(float, WrapTextAt)
+		/** Minimum width that a text block should be */
+		SLATE_ATTRIBUTE(float, MinDesiredWidth)
+		SLATE_END_ARGS()
+
+		STextBlock();
+		void Construct(const FArguments& InArgs);
+
+		/** Gets the text assigned to this text block; a bound text is read from its getter each call. */
+		const FText& GetText() const { return BoundText.Get(); }
+
+		void SetText(TAttribute<FText> InText) { BoundText = MoveTemp(InText); }
+		void SetFont(TAttribute<FSlateFontInfo> InFont) { Font = MoveTemp(InFont); }
+		void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
+		void SetTextStyle(const FTextBlockStyle* InTextStyle) { TextStyle = InTextStyle ? *InTextStyle : FTextBlockStyle::GetDefault(); }
+		void SetAutoWrapText(TAttribute<bool> InAutoWrapText) { AutoWrapText = MoveTemp(InAutoWrapText); }
+		void SetWrapTextAt(TAttribute<float> InWrapTextAt) { WrapTextAt = MoveTemp(InWrapTextAt); }
+		void SetMargin(TAttribute<FMargin> InMargin) { Margin = MoveTemp(InMargin); }
+		void SetJustification(TAttribute<ETextJustify::Type> InJustification) { Justification = MoveTemp(InJustification); }
+		void SetMinDesiredWidth(TAttribute<float> InMinDesiredWidth) { MinDesiredWidth = MoveTemp(InMinDesiredWidth); }
+
+	private:
+		// The headless test driver reads the font, colour, margin and justification a user would see.
+		friend class FWidgetDriver;
+
+		/** The colour to draw with: the one set on the block, else the style's. */
+		FSlateColor GetColorAndOpacity() const;
+		/** The font to draw with: the one set on the block, else the style's. */
+		FSlateFontInfo GetFont() const;
+		FMargin GetMargin() const { return Margin.Get(); }
+		ETextJustify::Type GetJustification() const { return Justification.Get(); }
+
+		TAttribute<FText> BoundText;
+		FTextBlockStyle TextStyle;
+		TAttribute<FSlateFontInfo> Font;
+		TAttribute<FSlateColor> ColorAndOpacity;
+		TAttribute<FMargin> Margin;
+		TAttribute<ETextJustify::Type> Justification;
+		TAttribute<bool> AutoWrapText;
+		TAttribute<float> WrapTextAt;
+		TAttribute<float> MinDesiredWidth;
+};

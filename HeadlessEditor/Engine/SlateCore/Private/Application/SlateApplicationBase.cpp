@@ -1,0 +1,3 @@
+#include "Application/SlateApplicationBase.h"
+
+TSharedPtr<FSlateApplicationBase> FSlateApplicationBase::CurrentBaseApplication;

@@ -1,0 +1,154 @@
+#include "Styling/SlateStyle.h"
+
+#include "Brushes/SlateImageBrush.h"
+#include "Misc/Paths.h"
+
+FName ISlateStyle::Join(FName First, const ANSICHAR* Second)
+{
+	if (Second == nullptr)
+	{
+		return First;
+	}
+	return FName(*(First.ToString() + FString(Second)));
+}
+
+FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
+	: StyleSetName(InStyleSetName)
+	, DefaultBrush(new FSlateImageBrush(TEXT("Slate/Checkerboard.png"), FVector2D(16.0, 16.0), FLinearColor(1, 1, 1, 1), ESlateBrushTileType::Both))
+{
+}
+
+FSlateStyleSet::~FSlateStyleSet()
+{
+	for (TPair<FName, FSlateBrush*>& Pair : BrushResources)
+	{
+		delete Pair.Value;
+	}
+	delete DefaultBrush;
+}
+
+const FName& FSlateStyleSet::GetStyleSetName() const
+{
+	return StyleSetName;
+}
+
+void FSlateStyleSet::GetResources(TArray<const FSlateBrush*>& OutResources) const
+{
+	for (const TPair<FName, FSlateBrush*>& Pair : BrushResources)
+	{
+		OutResources.Add(Pair.Value);
+	}
+}
+
+void FSlateStyleSet::GetBrushKeys(TArray<FName>& OutKeys) const
+{
+	for (const TPair<FName, FSlateBrush*>& Pair : BrushResources)
+	{
+		OutKeys.Add(Pair.Key);
+	}
+}
+
+void FSlateStyleSet::SetContentRoot(const FString& InContentRootDir)
+{
+	ContentRootDir = InContentRootDir;
+}
+
+FString FSlateStyleSet::RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
+{
+	return (ContentRootDir / FString(RelativePath)) + Extension;
+}
+
+FString FSlateStyleSet::RootToContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
+{
+	return (ContentRootDir / RelativePath) + Extension;
+}
+
+FString FSlateStyleSet::RootToContentDir(const FString& RelativePath, const TCHAR* Extension)
+{
+	return (ContentRootDir / RelativePath) + Extension;
+}
+
+FString FSlateStyleSet::RootToContentDir(const ANSICHAR* RelativePath)
+{
+	return ContentRootDir / FString(RelativePath);
+}
+
+FString FSlateStyleSet::RootToContentDir(const WIDECHAR* RelativePath)
+{
+	return ContentRootDir / RelativePath;
+}
+
+FString FSlateStyleSet::RootToContentDir(const FString& RelativePath)
+{
+	return ContentRootDir / RelativePath;
+}
+
+void FSlateStyleSet::SetCoreContentRoot(const FString& InCoreContentRootDir)
+{
+	CoreContentRootDir = InCoreContentRootDir;
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
+{
+	return (CoreContentRootDir / FString(RelativePath)) + Extension;
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
+{
+	return (CoreContentRootDir / RelativePath) + Extension;
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath, const TCHAR* Extension)
+{
+	return (CoreContentRootDir / RelativePath) + Extension;
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath)
+{
+	return CoreContentRootDir / FString(RelativePath);
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath)
+{
+	return CoreContentRootDir / RelativePath;
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath)
+{
+	return CoreContentRootDir / RelativePath;
+}
+
+const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSICHAR* Specifier, const ISlateStyle* RequestingStyle) const
+{
+	FSlateBrush* const* Found = BrushResources.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : GetDefaultBrush();
+}
+
+const FSlateBrush* FSlateStyleSet::GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const InDefaultBrush) const
+{
+	FSlateBrush* const* Found = BrushResources.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : InDefaultBrush;
+}
+
+const FSlateBrush* FSlateStyleSet::GetDefaultBrush() const
+{
+	return DefaultBrush;
+}
+
+FSlateFontInfo FSlateStyleSet::GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier) const
+{
+	const FSlateFontInfo* Found = FontInfoResources.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : FStyleDefaults::GetFontInfo();
+}
+
+void FSlateStyleSet::SetBrush(const FName PropertyName, FSlateBrush* InBrush)
+{
+	// The engine leaks a brush replaced under the same key; the headless editor frees it.
+	if (FSlateBrush** Existing = BrushResources.Find(PropertyName))
+	{
+		delete *Existing;
+		*Existing = InBrush;
+		return;
+	}
+	BrushResources.Add(PropertyName, InBrush);
+}

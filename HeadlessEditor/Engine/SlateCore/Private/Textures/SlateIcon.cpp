@@ -1,0 +1,48 @@
+#include "Textures/SlateIcon.h"
+
+#include "Styling/ISlateStyle.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "Styling/StyleDefaults.h"
+
+FSlateIcon::FSlateIcon()
+	: bIsSet(false)
+{
+}
+
+FSlateIcon::FSlateIcon(const FName InStyleSetName, const FName InStyleName, const FName InSmallStyleName, const FName InStatusOverlayStyleName)
+	: StyleSetName(InStyleSetName)
+	, StyleName(InStyleName)
+	, SmallStyleName(InSmallStyleName.IsNone() ? FName(*(InStyleName.ToString() + TEXT(".Small"))) : InSmallStyleName)
+	, StatusOverlayStyleName(InStatusOverlayStyleName)
+	, bIsSet(true)
+{
+}
+
+const FSlateBrush* FSlateIcon::GetIcon() const
+{
+	const ISlateStyle* StyleSet = GetStyleSet();
+	return StyleSet ? StyleSet->GetBrush(StyleName) : FStyleDefaults::GetNoBrush();
+}
+
+const FSlateBrush* FSlateIcon::GetOptionalIcon() const
+{
+	const ISlateStyle* StyleSet = GetStyleSet();
+	return StyleSet ? StyleSet->GetOptionalBrush(StyleName, nullptr, nullptr) : nullptr;
+}
+
+const FSlateBrush* FSlateIcon::GetSmallIcon() const
+{
+	const ISlateStyle* StyleSet = GetStyleSet();
+	return StyleSet ? StyleSet->GetBrush(SmallStyleName) : FStyleDefaults::GetNoBrush();
+}
+
+const FSlateBrush* FSlateIcon::GetOverlayIcon() const
+{
+	const ISlateStyle* StyleSet = GetStyleSet();
+	return StyleSet && !StatusOverlayStyleName.IsNone() ? StyleSet->GetOptionalBrush(StatusOverlayStyleName, nullptr, nullptr) : nullptr;
+}
+
+const ISlateStyle* FSlateIcon::GetStyleSet() const
+{
+	return StyleSetName.IsNone() ? nullptr : FSlateStyleRegistry::FindSlateStyle(StyleSetName);
+}

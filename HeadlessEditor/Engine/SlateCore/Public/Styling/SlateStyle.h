@@ -1,0 +1,72 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Fonts/SlateFontInfo.h"
+#include "Styling/ISlateStyle.h"
+#include "Styling/SlateBrush.h"
+
+/** A style set filled in code: it owns the brushes added to it and finds image files under its content root. */
+class SLATECORE_API FSlateStyleSet : public ISlateStyle
+{
+public:
+	FSlateStyleSet(const FName& InStyleSetName);
+	virtual ~FSlateStyleSet();
+
+	virtual const FName& GetStyleSetName() const override;
+	virtual void GetResources(TArray<const FSlateBrush*>& OutResources) const override;
+
+	virtual void SetContentRoot(const FString& InContentRootDir);
+	virtual FString RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension);
+	virtual FString RootToContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension);
+	virtual FString RootToContentDir(const FString& RelativePath, const TCHAR* Extension);
+	virtual FString RootToContentDir(const ANSICHAR* RelativePath);
+	virtual FString RootToContentDir(const WIDECHAR* RelativePath);
+	virtual FString RootToContentDir(const FString& RelativePath);
+	virtual FString GetContentRootDir() const { return ContentRootDir; }
+
+	virtual void SetCoreContentRoot(const FString& InCoreContentRootDir);
+	virtual FString RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension);
+	virtual FString RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension);
+	virtual FString RootToCoreContentDir(const FString& RelativePath, const TCHAR* Extension);
+	virtual FString RootToCoreContentDir(const ANSICHAR* RelativePath);
+	virtual FString RootToCoreContentDir(const WIDECHAR* RelativePath);
+	virtual FString RootToCoreContentDir(const FString& RelativePath);
+
+	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const ISlateStyle* RequestingStyle = nullptr) const override;
+	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;
+	virtual const FSlateBrush* GetDefaultBrush() const override;
+	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
+
+	/** Adds a brush made with new; the style set owns it from now on and deletes it with itself. */
+	template <typename BrushType>
+	FORCENOINLINE void Set(const FName PropertyName, BrushType* InBrush)
+	{
+		SetBrush(PropertyName, InBrush);
+	}
+
+	FORCENOINLINE void Set(FName PropertyName, const FSlateFontInfo& InFontInfo)
+	{
+		FontInfoResources.Add(PropertyName, InFontInfo);
+	}
+
+	/** Headless only: the keys of the brushes in the order they were added, for tests to read the set. */
+	void GetBrushKeys(TArray<FName>& OutKeys) const;
+
+protected:
+	void SetBrush(const FName PropertyName, FSlateBrush* InBrush);
+
+	/** The name used to identity this style set */
+	FName StyleSetName;
+
+	/** This dir is Engine/Editor/Slate folder **/
+	FString ContentRootDir;
+
+	/** This dir is Engine/Slate folder to share the items **/
+	FString CoreContentRootDir;
+
+	TMap<FName, FSlateBrush*> BrushResources;
+	TMap<FName, FSlateFontInfo> FontInfoResources;
+
+	/** The brush drawn for a key that is missing */
+	FSlateBrush* DefaultBrush;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Styling/SlateBrush.h"
+#include "Styling/SlateColor.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SLeafWidget.h"
+
+/** Draws a brush. */
+class SLATECORE_API SImage : public SLeafWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SImage)
+		: _Image(nullptr)
+		, _ColorAndOpacity(FLinearColor::White)
+		, _FlipForRightToLeftFlowDirection(false)
+		{
+		}
+		/** Image resource */
+		SLATE_ATTRIBUTE(const FSlateBrush*, Image)
+		/** Color and opacity */
+		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
+		/** When specified, ignore the brushes size and report the DesiredSizeOverride as the desired image size. */
+		SLATE_ATTRIBUTE(TOptional<FVector2D>, DesiredSizeOverride)
+		/** Flips the image if the localization's flow direction is RightToLeft */
+		SLATE_ARGUMENT(bool, FlipForRightToLeftFlowDirection)
+		SLATE_END_ARGS()
+
+		SImage();
+		void Construct(const FArguments& InArgs);
+
+		void SetImage(TAttribute<const FSlateBrush*> InImage) { Image = MoveTemp(InImage); }
+		void SetColorAndOpacity(const TAttribute<FSlateColor>& InColorAndOpacity) { ColorAndOpacity = InColorAndOpacity; }
+		void SetDesiredSizeOverride(TAttribute<TOptional<FVector2D>> InDesiredSizeOverride) { DesiredSizeOverride = MoveTemp(InDesiredSizeOverride); }
+
+		/** Headless only: the brush the image draws, read from its attribute. */
+		const FSlateBrush* GetImage() const { return Image.Get(); }
+		/** Headless only: the colour the image is tinted with. */
+		FSlateColor GetColorAndOpacity() const { return ColorAndOpacity.Get(); }
+
+	private:
+		TAttribute<const FSlateBrush*> Image;
+		TAttribute<FSlateColor> ColorAndOpacity;
+		TAttribute<TOptional<FVector2D>> DesiredSizeOverride;
+		bool bFlipForRightToLeftFlowDirection;
+};
