@@ -1,0 +1,221 @@
+#include "WidgetDriver.h"
+
+#include "Framework/Application/SlateApplication.h"
+#include "Layout/Children.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SEditableTextBox.h"
+#include "Widgets/Layout/SWrapBox.h"
+#include "Widgets/SNullWidget.h"
+#include "Widgets/Text/STextBlock.h"
+
+namespace
+{
+	bool IsOfType(const SWidget& Widget, const FString& TypeName)
+	{
+		if (TypeName.IsEmpty())
+		{
+			return true;
+		}
+		const FString Type = Widget.GetTypeAsString();
+		return Type.Equals(TypeName) || Type.StartsWith(TypeName + TEXT("<"), ESearchCase::CaseSensitive);
+	}
+
+	/** The text a widget shows by itself, without looking inside it. */
+	TOptional<FString> GetOwnText(const TSharedRef<SWidget>& Widget)
+	{
+		if (IsOfType(*Widget, TEXT("STextBlock")))
+		{
+			return StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString();
+		}
+		if (IsOfType(*Widget, TEXT("SEditableTextBox")))
+		{
+			return StaticCastSharedRef<SEditableTextBox>(Widget)->GetText().ToString();
+		}
+		return TOptional<FString>();
+	}
+
+	void CollectMatches(const TSharedRef<SWidget>& Widget, const FString& TypeName, const TOptional<FString>& Text, TArray<TSharedRef<SWidget>>& OutMatches)
+	{
+		if (IsOfType(*Widget, TypeName))
+		{
+			const TOptional<FString> Shown = Text.IsSet() ? FWidgetDriver::GetDisplayedText(Widget) : TOptional<FString>();
+			if (!Text.IsSet() || (Shown.IsSet() && Shown.GetValue().Equals(Text.GetValue())))
+			{
+				OutMatches.Add(Widget);
+			}
+		}
+		for (const TSharedRef<SWidget>& Child : FWidgetDriver::GetChildWidgets(Widget))
+		{
+			CollectMatches(Child, TypeName, Text, OutMatches);
+		}
+	}
+
+	void DescribeWidget(const TSharedRef<SWidget>& Widget, int32 Depth, FString& OutDescription)
+	{
+		for (int32 Level = 0; Level < Depth; ++Level)
+		{
+			OutDescription += TEXT("  ");
+		}
+		OutDescription += Widget->GetTypeAsString();
+		const TOptional<FString> Text = GetOwnText(Widget);
+		if (Text.IsSet())
+		{
+			OutDescription += TEXT(" \"") + Text.GetValue() + TEXT("\"");
+		}
+		OutDescription += TEXT(" [") + Widget->GetVisibility().ToString() + (Widget->IsEnabled() ? TEXT(", enabled]") : TEXT(", disabled]"));
+		OutDescription += TEXT("\n");
+		for (const TSharedRef<SWidget>& Child : FWidgetDriver::GetChildWidgets(Widget))
+		{
+			DescribeWidget(Child, Depth + 1, OutDescription);
+		}
+	}
+}
+
+TArray<TSharedRef<SWidget>> FWidgetDriver::GetChildWidgets(const TSharedRef<SWidget>& Widget)
+{
+	TArray<TSharedRef<SWidget>> Result;
+	FChildren* Children = Widget->GetChildren();
+	for (int32 Index = 0; Children && Index < Children->Num(); ++Index)
+	{
+		const TSharedRef<SWidget> Child = Children->GetChildAt(Index);
+		if (Child != SNullWidget::NullWidget)
+		{
+			Result.Add(Child);
+		}
+	}
+	return Result;
+}
+
+TArray<TSharedRef<SWidget>> FWidgetDriver::FindAllWidgets(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text)
+{
+	TArray<TSharedRef<SWidget>> Matches;
+	CollectMatches(Root, TypeName, Text, Matches);
+	return Matches;
+}
+
+TSharedPtr<SWidget> FWidgetDriver::FindWidget(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text)
+{
+	const TArray<TSharedRef<SWidget>> Matches = FindAllWidgets(Root, TypeName, Text);
+	return Matches.Num() > 0 ? TSharedPtr<SWidget>(Matches[0]) : TSharedPtr<SWidget>();
+}
+
+TOptional<FString> FWidgetDriver::GetDisplayedText(const TSharedRef<SWidget>& Widget)
+{
+	const TOptional<FString> OwnText = GetOwnText(Widget);
+	if (OwnText.IsSet())
+	{
+		return OwnText;
+	}
+	for (const TSharedRef<SWidget>& Child : GetChildWidgets(Widget))
+	{
+		const TOptional<FString> ChildText = GetDisplayedText(Child);
+		if (ChildText.IsSet())
+		{
+			return ChildText;
+		}
+	}
+	return TOptional<FString>();
+}
+
+bool FWidgetDriver::IsShown(const TSharedRef<SWidget>& Widget)
+{
+	for (TSharedPtr<SWidget> Current = Widget; Current.IsValid(); Current = Current->GetParentWidget())
+	{
+		if (!Current->GetVisibility().IsVisible())
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+bool FWidgetDriver::IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget)
+{
+	for (TSharedPtr<SWidget> Current = Widget; Current.IsValid(); Current = Current->GetParentWidget())
+	{
+		if (!Current->IsEnabled())
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+FSlateFontInfo FWidgetDriver::GetFont(const STextBlock& TextBlock)
+{
+	return TextBlock.GetFont();
+}
+
+FSlateColor FWidgetDriver::GetColor(const STextBlock& TextBlock)
+{
+	return TextBlock.GetColorAndOpacity();
+}
+
+FMargin FWidgetDriver::GetMargin(const STextBlock& TextBlock)
+{
+	return TextBlock.GetMargin();
+}
+
+ETextJustify::Type FWidgetDriver::GetJustification(const STextBlock& TextBlock)
+{
+	return TextBlock.GetJustification();
+}
+
+bool FWidgetDriver::UsesAllottedSize(const SWrapBox& WrapBox)
+{
+	return WrapBox.bUseAllottedSize;
+}
+
+int32 FWidgetDriver::GetAttentionRequests(const SDockTab& Tab)
+{
+	return Tab.FlashCount;
+}
+
+bool FWidgetDriver::Click(const TSharedRef<SButton>& Button)
+{
+	if (!IsShown(Button) || !IsEffectivelyEnabled(Button))
+	{
+		return false;
+	}
+	Button->SimulateClick();
+	return true;
+}
+
+bool FWidgetDriver::ToggleCheckBox(const TSharedRef<SCheckBox>& CheckBox)
+{
+	if (!IsShown(CheckBox) || !IsEffectivelyEnabled(CheckBox))
+	{
+		return false;
+	}
+	CheckBox->ToggleCheckedState();
+	return true;
+}
+
+bool FWidgetDriver::TypeText(const TSharedRef<SEditableTextBox>& TextBox, const FText& Text, ETextCommit::Type CommitType)
+{
+	if (!IsShown(TextBox) || !IsEffectivelyEnabled(TextBox) || TextBox->IsReadOnly.Get(false))
+	{
+		return false;
+	}
+	TextBox->HandleUserEdit(Text);
+	TextBox->HandleCommit(CommitType);
+	return true;
+}
+
+bool FWidgetDriver::PressKey(const TSharedRef<SWidget>& Widget, const FKey& Key)
+{
+	checkf(FSlateApplication::IsInitialized(), TEXT("Pressing a key needs the Slate application"));
+	FSlateApplication& Application = FSlateApplication::Get();
+	const bool bFocused = Application.SetKeyboardFocus(Widget);
+	checkf(bFocused, TEXT("The widget does not support keyboard focus"));
+	return Application.ProcessKeyDownEvent(FKeyEvent(Key, FModifierKeysState(), 0, false, 0, 0));
+}
+
+FString FWidgetDriver::DescribeTree(const TSharedRef<SWidget>& Root)
+{
+	FString Description;
+	DescribeWidget(Root, 0, Description);
+	return Description;
+}

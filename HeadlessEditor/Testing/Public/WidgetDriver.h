@@ -1,0 +1,112 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Framework/Text/TextLayout.h"
+#include "InputCoreTypes.h"
+#include "Styling/SlateTypes.h"
+#include "Types/SlateEnums.h"
+#include "Widgets/Input/SComboBox.h"
+#include "Widgets/SWidget.h"
+
+class SButton;
+class SCheckBox;
+class SDockTab;
+class SEditableTextBox;
+class STextBlock;
+class SWrapBox;
+
+/**
+ * Drives widget trees as a user would, where the engine would need a real window: finds widgets by
+ * type and text, reads what they show, and clicks, ticks, types, presses keys and picks combo items.
+ */
+class HEADLESSTESTING_API FWidgetDriver
+{
+public:
+	/** The non-null children of a widget, in slot order. */
+	static TArray<TSharedRef<SWidget>> GetChildWidgets(const TSharedRef<SWidget>& Widget);
+
+	/**
+	 * Every widget under Root (Root included), depth first in tree order, whose type is TypeName
+	 * (an empty name matches any type; "SComboBox" matches every SComboBox<...>) and, if Text is
+	 * given, whose displayed text equals it exactly.
+	 */
+	static TArray<TSharedRef<SWidget>> FindAllWidgets(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text = TOptional<FString>());
+
+	/** The first widget FindAllWidgets would return, or nullptr. */
+	static TSharedPtr<SWidget> FindWidget(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text = TOptional<FString>());
+
+	/** FindWidget cast to the widget class named by TypeName. */
+	template <typename WidgetType>
+	static TSharedPtr<WidgetType> Find(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text = TOptional<FString>())
+	{
+		const TSharedPtr<SWidget> Found = FindWidget(Root, TypeName, Text);
+		return Found.IsValid() ? StaticCastSharedRef<WidgetType>(Found.ToSharedRef()).ToSharedPtr() : TSharedPtr<WidgetType>();
+	}
+
+	/**
+	 * The text a widget shows: its own for a text block or editable text box; for any other widget,
+	 * that of the first text block inside it (a button's label, a check box's caption).
+	 */
+	static TOptional<FString> GetDisplayedText(const TSharedRef<SWidget>& Widget);
+
+	/** Whether the widget and all its ancestors are visible. */
+	static bool IsShown(const TSharedRef<SWidget>& Widget);
+	/** Whether the widget and all its ancestors are enabled. */
+	static bool IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget);
+
+	static FSlateFontInfo GetFont(const STextBlock& TextBlock);
+	static FSlateColor GetColor(const STextBlock& TextBlock);
+	static FMargin GetMargin(const STextBlock& TextBlock);
+	static ETextJustify::Type GetJustification(const STextBlock& TextBlock);
+	static bool UsesAllottedSize(const SWrapBox& WrapBox);
+	/** How many times a tab was asked to draw attention (invoked while already open). */
+	static int32 GetAttentionRequests(const SDockTab& Tab);
+
+	/** Clicks a button as a user would: only a shown, enabled button can be clicked. @return whether it was. */
+	static bool Click(const TSharedRef<SButton>& Button);
+	/** Clicks a check box as a user would (fires OnCheckStateChanged). @return whether it was clicked. */
+	static bool ToggleCheckBox(const TSharedRef<SCheckBox>& CheckBox);
+	/** Types a whole text into a box and commits it: OnTextChanged, then OnTextCommitted. */
+	static bool TypeText(const TSharedRef<SEditableTextBox>& TextBox, const FText& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
+	/**
+	 * Focuses the widget and sends a key press through the application, which bubbles it up the
+	 * parents. The widget must support keyboard focus. @return whether a widget handled it.
+	 */
+	static bool PressKey(const TSharedRef<SWidget>& Widget, const FKey& Key);
+
+	/** Picks an option of an open combo box with the mouse. @return whether the combo could be used. */
+	template <typename OptionType>
+	static bool PickComboItem(const TSharedRef<SComboBox<OptionType>>& ComboBox, const OptionType& Item)
+	{
+		if (!IsShown(ComboBox) || !IsEffectivelyEnabled(ComboBox))
+		{
+			return false;
+		}
+		checkf(ComboBox->OptionsSource->Contains(Item), TEXT("The item is not one of the combo box's options"));
+		ComboBox->SetIsOpen(true);
+		ComboBox->OnSelectionChanged_Internal(Item, ESelectInfo::OnMouseClick);
+		return true;
+	}
+
+	/** The rows the open combo box would list, one per option, made by its OnGenerateWidget. */
+	template <typename OptionType>
+	static TArray<TSharedRef<SWidget>> GenerateComboRows(const TSharedRef<SComboBox<OptionType>>& ComboBox)
+	{
+		TArray<TSharedRef<SWidget>> Rows;
+		for (const OptionType& Option : *ComboBox->OptionsSource)
+		{
+			Rows.Add(ComboBox->GenerateMenuItemRow(Option));
+		}
+		return Rows;
+	}
+
+	/** The options a combo box lists. */
+	template <typename OptionType>
+	static const TArray<OptionType>& GetComboOptions(const TSharedRef<SComboBox<OptionType>>& ComboBox)
+	{
+		return *ComboBox->OptionsSource;
+	}
+
+	/** An indented outline of the tree, one line per widget: type, "text", visibility, enabled state. */
+	static FString DescribeTree(const TSharedRef<SWidget>& Root);
+};
