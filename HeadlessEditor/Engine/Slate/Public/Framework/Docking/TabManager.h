@@ -163,7 +163,5 @@ protected:
 	virtual TSharedPtr<FTabSpawnerEntry> FindTabSpawnerFor(FName TabId) const override;
 
 private:
-	friend class FWidgetDriver;
-
 	TMap<FName, TSharedRef<FTabSpawnerEntry>> NomadTabSpawner;
 };
