@@ -51,12 +51,12 @@ public:
 	bool operator==(const TObjectPtr& Other) const { return Pointer == Other.Pointer; }
 	bool operator!=(const TObjectPtr& Other) const { return Pointer != Other.Pointer; }
 	template <typename U>
-	bool operator==(const U* Other) const
+	bool operator==(U* Other) const
 	{
 		return Pointer == Other;
 	}
 	template <typename U>
-	bool operator!=(const U* Other) const
+	bool operator!=(U* Other) const
 	{
 		return Pointer != Other;
 	}
