@@ -53,11 +53,13 @@ namespace UE::CoreUObject::Private
 	UPackage* FindOrCreateScriptPackage(const TCHAR* PackageName)
 	{
 		const FName Name(PackageName);
+		// Making the package class may itself make this package, so ask for it first.
+		UClass* PackageClass = UPackage::StaticClass();
 		if (UPackage* Existing = (UPackage*)FUObjectRegistry::FindChild(nullptr, Name))
 		{
 			return Existing;
 		}
-		UPackage* Package = static_cast<UPackage*>(StaticConstructObject_Internal(UPackage::StaticClass(), nullptr, Name, RF_Public | RF_Standalone));
+		UPackage* Package = static_cast<UPackage*>(StaticConstructObject_Internal(PackageClass, nullptr, Name, RF_Public | RF_Standalone));
 		Package->SetPackageFlags(PKG_CompiledIn | PKG_ContainsScript);
 		Package->AddToRoot();
 		return Package;

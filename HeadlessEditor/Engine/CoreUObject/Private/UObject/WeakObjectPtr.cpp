@@ -23,7 +23,7 @@ UObject* FWeakObjectPtr::Get(bool bEvenIfPendingKill) const
 		return nullptr;
 	}
 	UObject* Object = (UObject*)Item->Object;
-	return bEvenIfPendingKill || IsValid(Object) ? Object : nullptr;
+	return bEvenIfPendingKill || ::IsValid(Object) ? Object : nullptr;
 }
 
 bool FWeakObjectPtr::IsValid(bool bEvenIfPendingKill, bool bThreadsafeTest) const
