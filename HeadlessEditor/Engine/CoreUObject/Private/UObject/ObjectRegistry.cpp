@@ -18,8 +18,8 @@ namespace
 		TArray<FUObjectItem> Items;
 		TArray<int32> FreeSlots;
 		int32 NextSerial = 1;
-		std::unordered_map<const UObject*, TArray<UObject*>> ChildrenByOuter;
-		std::unordered_map<const UObject*, std::unordered_map<const UClass*, int32>> SuffixesByParent;
+		std::unordered_map<const UObjectBase*, TArray<UObjectBase*>> ChildrenByOuter;
+		std::unordered_map<const UObjectBase*, std::unordered_map<const UClass*, int32>> SuffixesByParent;
 	};
 
 	FRegistryState& State()
@@ -64,7 +64,7 @@ void FUObjectRegistry::Add(UObjectBase* Object)
 	Registry.Items[Index].Object = Object;
 	Registry.Items[Index].SerialNumber = Registry.NextSerial++;
 	Object->InternalIndex = Index;
-	Registry.ChildrenByOuter[Object->OuterPrivate].Add((UObject*)Object);
+	Registry.ChildrenByOuter[Object->OuterPrivate].Add(Object);
 }
 
 void FUObjectRegistry::Remove(UObjectBase* Object)
@@ -82,40 +82,34 @@ void FUObjectRegistry::Remove(UObjectBase* Object)
 	auto Children = Registry.ChildrenByOuter.find(Object->OuterPrivate);
 	if (Children != Registry.ChildrenByOuter.end())
 	{
-		Children->second.RemoveSingle((UObject*)Object);
+		Children->second.RemoveSingle(Object);
 	}
-	Registry.SuffixesByParent.erase((const UObject*)Object);
+	Registry.SuffixesByParent.erase(Object);
 }
 
 UObject* FUObjectRegistry::FindChild(const UObject* Outer, FName Name)
 {
-	const TArray<UObject*>* Children = GetChildren(Outer);
-	if (Children)
+	const auto Children = State().ChildrenByOuter.find(Outer);
+	if (Children != State().ChildrenByOuter.end())
 	{
-		for (UObject* Child : *Children)
+		for (UObjectBase* Child : Children->second)
 		{
 			if (Child->GetFName() == Name)
 			{
-				return Child;
+				return (UObject*)Child;
 			}
 		}
 	}
 	return nullptr;
 }
 
-const TArray<UObject*>* FUObjectRegistry::GetChildren(const UObject* Outer)
-{
-	const auto Found = State().ChildrenByOuter.find(Outer);
-	return Found == State().ChildrenByOuter.end() ? nullptr : &Found->second;
-}
-
 void FUObjectRegistry::Rename(UObjectBase* Object, UObject* NewOuter, FName NewName)
 {
 	FRegistryState& Registry = State();
-	Registry.ChildrenByOuter[Object->OuterPrivate].RemoveSingle((UObject*)Object);
+	Registry.ChildrenByOuter[Object->OuterPrivate].RemoveSingle(Object);
 	Object->OuterPrivate = NewOuter;
 	Object->NamePrivate = NewName;
-	Registry.ChildrenByOuter[NewOuter].Add((UObject*)Object);
+	Registry.ChildrenByOuter[NewOuter].Add(Object);
 }
 
 int32 FUObjectRegistry::NextSuffix(UObject* Parent, const UClass* Class)
@@ -157,7 +151,7 @@ UObjectBase::UObjectBase()
 {
 	FObjectInitializer* Initializer = FUObjectRegistry::Top();
 	checkf(Initializer && !Initializer->Obj, TEXT("UObjects are created with NewObject, not constructed directly"));
-	Initializer->Obj = (UObject*)this;
+	Initializer->Obj = this;
 	ClassPrivate = Initializer->Class;
 	NamePrivate = Initializer->Name;
 	OuterPrivate = Initializer->Outer;

@@ -17,7 +17,6 @@ public:
 	static void Add(UObjectBase* Object);
 	static void Remove(UObjectBase* Object);
 	static UObject* FindChild(const UObject* Outer, FName Name);
-	static const TArray<UObject*>* GetChildren(const UObject* Outer);
 	static void Rename(UObjectBase* Object, UObject* NewOuter, FName NewName);
 	static int32 NextSuffix(UObject* Parent, const UClass* Class);
 

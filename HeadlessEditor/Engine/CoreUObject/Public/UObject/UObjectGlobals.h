@@ -21,7 +21,7 @@ public:
 	/** The initializer of the object being constructed; fatal outside a constructor. */
 	static FObjectInitializer& Get();
 
-	UObject* GetObj() const { return Obj; }
+	UObject* GetObj() const { return (UObject*)Obj; }
 	UClass* GetClass() const { return Class; }
 	UObject* GetArchetype() const { return ObjectArchetype; }
 
@@ -38,7 +38,8 @@ private:
 	friend class FUObjectRegistry;
 	friend class UObjectBase;
 
-	UObject* Obj = nullptr;
+	// The object under construction; held by its base until its constructor has run.
+	class UObjectBase* Obj = nullptr;
 	UClass* Class = nullptr;
 	UObject* Outer = nullptr;
 	FName Name;
