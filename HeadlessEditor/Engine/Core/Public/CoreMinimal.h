@@ -24,3 +24,4 @@
 #include "Internationalization/Internationalization.h"
 #include "Math/Vector.h"
 #include "Math/Rotator.h"
+#include "UObject/WeakObjectPtrTemplates.h"
