@@ -62,6 +62,9 @@ function(ue_add_module Name)
 	set_property(GLOBAL APPEND PROPERTY HEADLESS_EDITOR_MODULES ${Name})
 	if(ARG_WARNINGS_AS_ERRORS)
 		target_compile_options(${Name} PRIVATE -Wall -Wextra -Werror -Wno-unused-parameter)
+	else()
+		# Engine and runtime headers are someone else's code to the product: their warnings are not its own.
+		set_target_properties(${Name} PROPERTIES SYSTEM ON)
 	endif()
 endfunction()
 

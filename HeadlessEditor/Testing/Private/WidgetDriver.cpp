@@ -1,6 +1,7 @@
 #include "WidgetDriver.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/TabManager.h"
 #include "Layout/Children.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SButton.h"
@@ -218,4 +219,10 @@ FString FWidgetDriver::DescribeTree(const TSharedRef<SWidget>& Root)
 	FString Description;
 	DescribeWidget(Root, 0, Description);
 	return Description;
+}
+
+TSharedPtr<const FTabSpawnerEntry> FWidgetDriver::FindNomadTabSpawner(FName TabId)
+{
+	const TSharedRef<FTabSpawnerEntry>* Entry = FGlobalTabmanager::Get()->NomadTabSpawner.Find(TabId);
+	return Entry ? TSharedPtr<const FTabSpawnerEntry>(*Entry) : TSharedPtr<const FTabSpawnerEntry>();
 }

@@ -11,6 +11,7 @@
 class SButton;
 class SCheckBox;
 class SDockTab;
+struct FTabSpawnerEntry;
 class SEditableTextBox;
 class STextBlock;
 class SWrapBox;
@@ -61,6 +62,9 @@ public:
 	static bool UsesAllottedSize(const SWrapBox& WrapBox);
 	/** How many times a tab was asked to draw attention (invoked while already open). */
 	static int32 GetAttentionRequests(const SDockTab& Tab);
+
+	/** The nomad tab spawner registered under an id, as the editor's Window menu lists it; null if none. */
+	static TSharedPtr<const FTabSpawnerEntry> FindNomadTabSpawner(FName TabId);
 
 	/** Clicks a button as a user would: only a shown, enabled button can be clicked. @return whether it was. */
 	static bool Click(const TSharedRef<SButton>& Button);

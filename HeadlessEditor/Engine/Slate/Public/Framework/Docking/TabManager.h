@@ -163,5 +163,8 @@ protected:
 	virtual TSharedPtr<FTabSpawnerEntry> FindTabSpawnerFor(FName TabId) const override;
 
 private:
+	/** The headless test driver reads registered spawners, which the engine shows only in its menus. */
+	friend class FWidgetDriver;
+
 	TMap<FName, TSharedRef<FTabSpawnerEntry>> NomadTabSpawner;
 };

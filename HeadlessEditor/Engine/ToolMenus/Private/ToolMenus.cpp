@@ -1,0 +1,205 @@
+#include "ToolMenus.h"
+
+#include "Framework/Application/SlateApplication.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+
+namespace
+{
+	UToolMenus* GToolMenusSingleton = nullptr;
+
+	class FToolMenusModule : public IToolMenusModule
+	{
+	public:
+		virtual void ShutdownModule() override
+		{
+			if (GToolMenusSingleton)
+			{
+				GToolMenusSingleton->MarkAsGarbage();
+				GToolMenusSingleton = nullptr;
+			}
+		}
+	};
+}
+
+IMPLEMENT_MODULE(FToolMenusModule, ToolMenus)
+
+FSimpleMulticastDelegate UToolMenus::StartupCallbacks;
+FDelegateHandle UToolMenus::InternalStartupCallbackHandle;
+
+FToolMenuEntry::FToolMenuEntry() = default;
+
+FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)
+{
+	FToolMenuEntry& Entry = Blocks.Add_GetRef(Args);
+	if (!Entry.Owner.IsSet())
+	{
+		Entry.Owner = UToolMenus::Get()->CurrentOwner();
+	}
+	return Entry;
+}
+
+FToolMenuEntry* FToolMenuSection::FindEntry(const FName InName)
+{
+	return Blocks.FindByPredicate([InName](const FToolMenuEntry& Entry)
+		{ return Entry.Name == InName; });
+}
+
+UToolMenu::UToolMenu() = default;
+
+FToolMenuSection& UToolMenu::FindOrAddSection(const FName SectionName)
+{
+	if (FToolMenuSection* Existing = FindSection(SectionName))
+	{
+		return *Existing;
+	}
+	return AddSection(SectionName);
+}
+
+FToolMenuSection& UToolMenu::AddSection(const FName SectionName, const TAttribute<FText>& InLabel)
+{
+	if (FToolMenuSection* Existing = FindSection(SectionName))
+	{
+		if (InLabel.IsSet())
+		{
+			Existing->Label = InLabel;
+		}
+		return *Existing;
+	}
+	FToolMenuSection& Section = Sections.AddDefaulted_GetRef();
+	Section.Name = SectionName;
+	Section.Label = InLabel;
+	Section.Owner = UToolMenus::Get()->CurrentOwner();
+	return Section;
+}
+
+FToolMenuSection* UToolMenu::FindSection(const FName SectionName)
+{
+	return Sections.FindByPredicate([SectionName](const FToolMenuSection& Section)
+		{ return Section.Name == SectionName; });
+}
+
+UToolMenus::UToolMenus() = default;
+
+UToolMenus* UToolMenus::Get()
+{
+	if (!GToolMenusSingleton && IToolMenusModule::IsAvailable())
+	{
+		GToolMenusSingleton = NewObject<UToolMenus>(GetTransientPackage());
+	}
+	return GToolMenusSingleton;
+}
+
+bool UToolMenus::IsToolMenuUIEnabled()
+{
+	return FSlateApplication::IsInitialized();
+}
+
+FDelegateHandle UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate)
+{
+	if (IsToolMenuUIEnabled() && UToolMenus::TryGet())
+	{
+		InDelegate.Execute();
+		return FDelegateHandle();
+	}
+
+	const FDelegateHandle Result = StartupCallbacks.Add(InDelegate);
+	if (!InternalStartupCallbackHandle.IsValid())
+	{
+		InternalStartupCallbackHandle = FCoreDelegates::OnPostEngineInit.AddStatic(&UToolMenus::PrivateStartupCallback);
+	}
+	return Result;
+}
+
+void UToolMenus::UnRegisterStartupCallback(const void* UserPointer)
+{
+	StartupCallbacks.RemoveAll(UserPointer);
+}
+
+void UToolMenus::UnRegisterStartupCallback(FDelegateHandle InHandle)
+{
+	StartupCallbacks.Remove(InHandle);
+}
+
+bool UToolMenus::HasStartupCallbackFor(const void* UserPointer)
+{
+	return StartupCallbacks.IsBoundToObject(UserPointer);
+}
+
+void UToolMenus::PrivateStartupCallback()
+{
+	FCoreDelegates::OnPostEngineInit.Remove(InternalStartupCallbackHandle);
+	InternalStartupCallbackHandle.Reset();
+
+	if (IsToolMenuUIEnabled() && UToolMenus::TryGet())
+	{
+		StartupCallbacks.Broadcast();
+		StartupCallbacks.Clear();
+	}
+}
+
+UToolMenu* UToolMenus::RegisterMenu(FName Name, const FName Parent, bool bWarnIfAlreadyRegistered)
+{
+	if (UToolMenu* Existing = FindMenu(Name))
+	{
+		return Existing;
+	}
+	UToolMenu* Menu = NewObject<UToolMenu>(this);
+	Menu->MenuName = Name;
+	Menus.Add(Menu);
+	return Menu;
+}
+
+UToolMenu* UToolMenus::ExtendMenu(const FName Name)
+{
+	// Extending a menu that is not registered yet is allowed; the extension waits for it.
+	return RegisterMenu(Name);
+}
+
+UToolMenu* UToolMenus::FindMenu(const FName Name)
+{
+	UToolMenu** Found = Menus.FindByPredicate([Name](const UToolMenu* Menu)
+		{ return Menu->MenuName == Name; });
+	return Found ? *Found : nullptr;
+}
+
+bool UToolMenus::IsMenuRegistered(const FName Name) const
+{
+	return Menus.ContainsByPredicate([Name](const UToolMenu* Menu)
+		{ return Menu->MenuName == Name; });
+}
+
+void UToolMenus::PushOwner(const FToolMenuOwner InOwner)
+{
+	OwnerStack.Add(InOwner);
+}
+
+void UToolMenus::PopOwner(const FToolMenuOwner InOwner)
+{
+	check(OwnerStack.Num() > 0 && OwnerStack.Last() == InOwner);
+	OwnerStack.Pop();
+}
+
+FToolMenuOwner UToolMenus::CurrentOwner() const
+{
+	return OwnerStack.Num() > 0 ? OwnerStack.Last() : FToolMenuOwner();
+}
+
+void UToolMenus::UnregisterOwnerInternal(FToolMenuOwner Owner)
+{
+	if (!Owner.IsSet())
+	{
+		return;
+	}
+	for (UToolMenu* Menu : Menus)
+	{
+		for (FToolMenuSection& Section : Menu->Sections)
+		{
+			Section.Blocks.RemoveAll([&Owner](const FToolMenuEntry& Entry)
+				{ return Entry.Owner == Owner; });
+		}
+		Menu->Sections.RemoveAll([&Owner](const FToolMenuSection& Section)
+			{ return Section.Owner == Owner && Section.Blocks.IsEmpty(); });
+	}
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "IToolMenusModule.h"
+#include "Misc/CoreDelegates.h"
+#include "ToolMenu.h"
+#include "ToolMenuEntry.h"
+#include "ToolMenuOwner.h"
+#include "ToolMenuSection.h"
+#include "UObject/Object.h"
+
+#include "ToolMenus.generated.h"
+
+/** The registry of the editor's menus and toolbars. */
+UCLASS()
+class TOOLMENUS_API UToolMenus : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UToolMenus();
+
+	static UToolMenus* Get();
+
+	/** Gets the registry without loading the tool-menus module. */
+	static inline UToolMenus* TryGet()
+	{
+		if (IToolMenusModule::IsAvailable())
+		{
+			return Get();
+		}
+		return nullptr;
+	}
+
+	/** Removes everything added under the given owner, without loading the tool-menus module. */
+	static inline void UnregisterOwner(FToolMenuOwner Owner)
+	{
+		if (UToolMenus* ToolMenus = UToolMenus::TryGet())
+		{
+			ToolMenus->UnregisterOwnerInternal(Owner);
+		}
+	}
+
+	static bool IsToolMenuUIEnabled();
+
+	/** Runs the callback now if menus can be built, otherwise once the engine has initialised. */
+	static FDelegateHandle RegisterStartupCallback(const FSimpleMulticastDelegate::FDelegate& InDelegate);
+	static void UnRegisterStartupCallback(const void* UserPointer);
+	static void UnRegisterStartupCallback(FDelegateHandle InHandle);
+
+	UToolMenu* RegisterMenu(FName Name, const FName Parent = NAME_None, bool bWarnIfAlreadyRegistered = true);
+	UToolMenu* ExtendMenu(const FName Name);
+	UToolMenu* FindMenu(const FName Name);
+	bool IsMenuRegistered(const FName Name) const;
+
+	void PushOwner(const FToolMenuOwner InOwner);
+	void PopOwner(const FToolMenuOwner InOwner);
+	FToolMenuOwner CurrentOwner() const;
+
+	/** Headless editor: whether a start-up callback bound to this object is still waiting. */
+	static bool HasStartupCallbackFor(const void* UserPointer);
+
+private:
+	void UnregisterOwnerInternal(FToolMenuOwner Owner);
+	static void PrivateStartupCallback();
+
+	TArray<UToolMenu*> Menus;
+	TArray<FToolMenuOwner> OwnerStack;
+
+	static FSimpleMulticastDelegate StartupCallbacks;
+	static FDelegateHandle InternalStartupCallbackHandle;
+};
+
+/** Adds entries under an owner for as long as it lives. */
+struct TOOLMENUS_API FToolMenuOwnerScoped
+{
+	FToolMenuOwnerScoped(const FToolMenuOwner InOwner)
+		: Owner(InOwner)
+	{
+		UToolMenus::Get()->PushOwner(InOwner);
+	}
+
+	~FToolMenuOwnerScoped() { UToolMenus::Get()->PopOwner(Owner); }
+
+	FToolMenuOwner GetOwner() const { return Owner; }
+
+private:
+	FToolMenuOwner Owner;
+};

@@ -1,0 +1,8 @@
+#include "KyroTelemetry.h"
+
+#include "CastellanRuntimeState.h"
+
+void KyroTelemetry::WizardEditorOpened()
+{
+	++FCastellanRuntimeState::Get().WizardEditorOpenedCount;
+}
