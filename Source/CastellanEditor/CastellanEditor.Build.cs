@@ -8,17 +8,34 @@ public class CastellanEditor : ModuleRules
 	{
 		PCHUsage = ModuleRules.PCHUsageMode.UseExplicitOrSharedPCHs;
 
-		PrivateDependencyModuleNames.AddRange(
+		// The factory's public header exposes UFactory and UKyroNDISoundWave.
+		PublicDependencyModuleNames.AddRange(
 			new string[]
 			{
 				"Core",
+				"CoreUObject",
+				"UnrealEd",
+				"KyroNDI",
+			}
+		);
+
+		PrivateDependencyModuleNames.AddRange(
+			new string[]
+			{
+				"Engine",
 				"Slate",
 				"SlateCore",
-				"UnrealEd",
 				"ToolMenus",
 				"Projects",
 				"PropertyEditor",
+				"PlacementMode",
 				"Castellan",
+				"KyroCamera",
+				"Kyro360Camera",
+				"KyroSpout",
+				"KyroMedia",
+				"KyroVirtualWebcam",
+				"KyroScreenCapture",
 			}
 		);
 	}

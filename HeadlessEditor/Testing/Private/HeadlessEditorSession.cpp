@@ -4,6 +4,8 @@
 #include "Editor/EditorEngine.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
+#include "Headless/HeadlessDesktop.h"
+#include "Headless/HeadlessNotifications.h"
 #include "Headless/HeadlessPlugins.h"
 #include "HeadlessEditorEngine.h"
 #include "HeadlessSlateRenderer.h"
@@ -55,6 +57,10 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
 	}
+	if (Options.bPlacementModeLoaded)
+	{
+		FModuleManager::Get().LoadModuleChecked(TEXT("PlacementMode"));
+	}
 	for (const FName& Module : GetRuntimeModules(Options))
 	{
 		FModuleManager::Get().LoadModule(Module);
@@ -73,6 +79,8 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 FHeadlessEditorSession::~FHeadlessEditorSession()
 {
 	FModuleManager::Get().UnloadModulesAtShutdown();
+	UE::Headless::ResetNotifications();
+	UE::Headless::ResetDesktop();
 	HeadlessEditorEngine::Destroy();
 	FGlobalTabmanager::Get()->ResetForHeadlessSession();
 	FSlateApplication::Shutdown();

@@ -13,6 +13,8 @@ struct FHeadlessEditorOptions
 	bool bPlaySessionRunning = false;
 	/** Whether the editor loads the plugin's editor module and finishes initialising by itself. */
 	bool bStartEditorModule = true;
+	/** Whether the editor has loaded its placement mode before plugin modules start. */
+	bool bPlacementModeLoaded = true;
 	/** Whether the plugin is installed at all (its descriptor found by the plugin manager). */
 	bool bPluginInstalled = true;
 	FString PluginVersionName = TEXT("1.0");

@@ -28,7 +28,30 @@ IMPLEMENT_MODULE(FToolMenusModule, ToolMenus)
 FSimpleMulticastDelegate UToolMenus::StartupCallbacks;
 FDelegateHandle UToolMenus::InternalStartupCallbackHandle;
 
-FToolMenuEntry::FToolMenuEntry() = default;
+FToolMenuEntry::FToolMenuEntry()
+	: Type(EMultiBlockType::None)
+{
+}
+
+FToolMenuEntry::FToolMenuEntry(const FToolMenuOwner InOwner, const FName InName, EMultiBlockType InType)
+	: Name(InName)
+	, Owner(InOwner)
+	, Type(InType)
+{
+}
+
+FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUIActionChoice& InAction, const FNewToolMenuChoice& InMenuContentGenerator, const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, bool bInSimpleComboBox, FName InTutorialHighlightName)
+{
+	FToolMenuEntry Entry(UToolMenus::Get()->CurrentOwner(), InName, EMultiBlockType::ToolBarComboButton);
+	Entry.TutorialHighlightName = InTutorialHighlightName;
+	Entry.Label = InLabel;
+	Entry.ToolTip = InToolTip;
+	Entry.Icon = InIcon;
+	Entry.Action = InAction;
+	Entry.ToolBarData.ComboButtonContextMenuGenerator = InMenuContentGenerator;
+	Entry.ToolBarData.bSimpleComboBox = bInSimpleComboBox;
+	return Entry;
+}
 
 FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)
 {

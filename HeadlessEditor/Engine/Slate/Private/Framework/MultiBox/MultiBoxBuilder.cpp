@@ -1,0 +1,127 @@
+#include "Framework/MultiBox/MultiBoxBuilder.h"
+
+#include "MenuBlocks.h"
+
+namespace
+{
+	/** The name tutorials use to highlight a block: the container's name, then the element's or command's. */
+	FName GenerateTutorialIdentifierName(FName InContainerName, FName InElementName, const TSharedPtr<const FUICommandInfo> InCommand, int32 InIndex)
+	{
+		FString BaseName;
+		if (InContainerName != NAME_None)
+		{
+			BaseName = InContainerName.ToString() + TEXT(".");
+		}
+		if (InElementName != NAME_None)
+		{
+			return FName(*(BaseName + InElementName.ToString()));
+		}
+		if (InCommand.IsValid() && InCommand->GetCommandName() != NAME_None)
+		{
+			return FName(*(BaseName + InCommand->GetCommandName().ToString()));
+		}
+		return FName(*(BaseName + FString::Printf(TEXT("MultiboxWidget%d"), InIndex)));
+	}
+}
+
+FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType Type, bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender, FName InTutorialHighlightName, FName InMenuName)
+	: MultiBox(FMultiBox::Create(Type, bInShouldCloseWindowAfterMenuSelection))
+	, TutorialHighlightName(InTutorialHighlightName)
+	, MenuName(InMenuName)
+{
+	CommandListStack.Add(InCommandList);
+}
+
+TSharedRef<SWidget> FMultiBoxBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride, uint32 MaxHeight)
+{
+	return MultiBox->MakeWidget(false, InMakeMultiBoxBuilderOverride);
+}
+
+TSharedRef<FMultiBox> FMultiBoxBuilder::GetMultiBox()
+{
+	return MultiBox;
+}
+
+FBaseMenuBuilder::FBaseMenuBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, bool bInCloseSelfOnly, TSharedPtr<FExtender> InExtender, const ISlateStyle* InStyleSet, FName InTutorialHighlightName, FName InMenuName)
+	: FMultiBoxBuilder(InType, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName)
+	, bCloseSelfOnly(bInCloseSelfOnly)
+{
+	MultiBox->SetStyle(InStyleSet, TEXT("Menu"));
+}
+
+void FBaseMenuBuilder::AddMenuEntry(const TSharedPtr<const FUICommandInfo> InCommand, FName InExtensionHook, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const FSlateIcon& InIconOverride, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+
+	check(InCommand.IsValid());
+	TSharedRef<FMenuEntryBlock> NewMenuEntryBlock = MakeShared<FMenuEntryBlock>(InExtensionHook, InCommand, CommandListStack.Last(), InLabelOverride, InToolTipOverride, InIconOverride, bCloseSelfOnly);
+	NewMenuEntryBlock->SetTutorialHighlightName(GenerateTutorialIdentifierName(TutorialHighlightName, InTutorialHighlightName, InCommand, MultiBox->GetBlocks().Num()));
+	MultiBox->AddMultiBlock(NewMenuEntryBlock);
+}
+
+void FBaseMenuBuilder::AddMenuEntry(const TAttribute<FText>& InLabel, const TAttribute<FText>& InToolTip, const FSlateIcon& InIcon, const FUIAction& UIAction, FName InExtensionHook, const EUserInterfaceActionType UserInterfaceActionType, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+
+	TSharedRef<FMenuEntryBlock> NewMenuEntryBlock = MakeShared<FMenuEntryBlock>(InExtensionHook, InLabel, InToolTip, InIcon, UIAction, UserInterfaceActionType, bCloseSelfOnly);
+	NewMenuEntryBlock->SetTutorialHighlightName(GenerateTutorialIdentifierName(TutorialHighlightName, InTutorialHighlightName, nullptr, MultiBox->GetBlocks().Num()));
+	MultiBox->AddMultiBlock(NewMenuEntryBlock);
+}
+
+FMenuBuilder::FMenuBuilder(const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, TSharedPtr<FExtender> InExtender, const bool bCloseSelfOnly, const ISlateStyle* InStyleSet, bool bInSearchable, FName InMenuName, bool bInRecursivelySearchable)
+	: FBaseMenuBuilder(EMultiBoxType::Menu, bInShouldCloseWindowAfterMenuSelection, InCommandList, bCloseSelfOnly, InExtender, InStyleSet, NAME_None, InMenuName)
+	, bSectionNeedsToBeApplied(false)
+	, bSearchable(bInSearchable)
+	, bRecursivelySearchable(bInRecursivelySearchable)
+{
+}
+
+void FMenuBuilder::BeginSection(FName InExtensionHook, const TAttribute<FText>& InHeadingText)
+{
+	check(CurrentSectionExtensionHook == NAME_None && !bSectionNeedsToBeApplied);
+
+	bSectionNeedsToBeApplied = true;
+	CurrentSectionExtensionHook = InExtensionHook;
+	CurrentSectionHeadingText = InHeadingText.Get(FText::GetEmpty());
+}
+
+void FMenuBuilder::EndSection()
+{
+	CurrentSectionExtensionHook = NAME_None;
+	bSectionNeedsToBeApplied = false;
+	CurrentSectionHeadingText = FText::GetEmpty();
+}
+
+void FMenuBuilder::AddSeparator(FName InExtensionHook)
+{
+	ApplySectionBeginning();
+
+	// A separator is never the first block of a menu.
+	if (MultiBox->GetBlocks().Num() > 0)
+	{
+		MultiBox->AddMultiBlock(MakeShared<FMenuSeparatorBlock>(InExtensionHook, false));
+	}
+}
+
+TSharedRef<SWidget> FMenuBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride, uint32 MaxHeight)
+{
+	TAttribute<float> MaxHeightAttribute;
+	if (MaxHeight < INT_MAX)
+	{
+		MaxHeightAttribute.Set((float)MaxHeight);
+	}
+	return MultiBox->MakeWidget(bSearchable, InMakeMultiBoxBuilderOverride, MaxHeightAttribute);
+}
+
+void FMenuBuilder::ApplySectionBeginning()
+{
+	if (bSectionNeedsToBeApplied)
+	{
+		if (!CurrentSectionHeadingText.IsEmpty())
+		{
+			MultiBox->AddMultiBlock(MakeShared<FHeadingBlock>(CurrentSectionExtensionHook, CurrentSectionHeadingText));
+		}
+		bSectionNeedsToBeApplied = false;
+		CurrentSectionHeadingText = FText::GetEmpty();
+	}
+}

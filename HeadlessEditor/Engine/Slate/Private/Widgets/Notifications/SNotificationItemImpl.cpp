@@ -1,0 +1,100 @@
+#include "SNotificationItemImpl.h"
+
+#include "Framework/Notifications/NotificationManager.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Text/STextBlock.h"
+
+namespace UE::Headless
+{
+	double GetNotificationTime();
+}
+
+void SNotificationItemImpl::Construct(const FArguments& InArgs, const FNotificationInfo& InInfo)
+{
+	Text = InInfo.Text;
+	SubText = InInfo.SubText;
+	Hyperlink = InInfo.Hyperlink;
+	HyperlinkText = InInfo.HyperlinkText;
+	Buttons = InInfo.ButtonDetails;
+	Image = InInfo.Image;
+	WidthOverride = InInfo.WidthOverride.Get();
+	FadeInDuration = InInfo.FadeInDuration;
+	FadeOutDuration = InInfo.FadeOutDuration;
+	ExpireDuration = InInfo.ExpireDuration;
+	bFireAndForget = InInfo.bFireAndForget;
+
+	TSharedRef<SHorizontalBox> ButtonRow = SNew(SHorizontalBox);
+	for (int32 Index = 0; Index < Buttons.Num(); ++Index)
+	{
+		const FSimpleDelegate Callback = Buttons[Index].Callback;
+		ButtonRow->AddSlot()
+			.AutoWidth()
+				[SNew(SButton)
+						.Text(Buttons[Index].Text)
+						.ToolTipText(Buttons[Index].ToolTip)
+						.Visibility(TAttribute<EVisibility>::CreateSP(this, &SNotificationItemImpl::GetButtonVisibility, Index))
+						.OnClicked_Lambda([Callback]()
+							{
+								Callback.ExecuteIfBound();
+								return FReply::Handled(); })];
+	}
+
+	ChildSlot
+		[SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[SNew(SImage).Image(Image)] + SHorizontalBox::Slot()[SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(this, &SNotificationItemImpl::GetText)] + SVerticalBox::Slot().AutoHeight()[SNew(STextBlock).Text(this, &SNotificationItemImpl::GetSubText)] + SVerticalBox::Slot().AutoHeight()[ButtonRow]]];
+}
+
+void SNotificationItemImpl::SetHyperlink(const FSimpleDelegate& InHyperlink, const TAttribute<FText>& InHyperlinkText)
+{
+	Hyperlink = InHyperlink;
+	HyperlinkText = InHyperlinkText;
+}
+
+void SNotificationItemImpl::ExpireAndFadeout()
+{
+	if (Phase == EPhase::Shown)
+	{
+		Phase = EPhase::Expiring;
+		PhaseEndTime = UE::Headless::GetNotificationTime() + ExpireDuration;
+	}
+}
+
+void SNotificationItemImpl::Fadeout()
+{
+	if (Phase == EPhase::Shown || Phase == EPhase::Expiring)
+	{
+		Phase = EPhase::FadingOut;
+		PhaseEndTime = UE::Headless::GetNotificationTime() + FadeOutDuration;
+	}
+}
+
+bool SNotificationItemImpl::Advance(double Now)
+{
+	if (Phase == EPhase::Expiring && Now >= PhaseEndTime)
+	{
+		Phase = EPhase::FadingOut;
+		PhaseEndTime += FadeOutDuration;
+	}
+	if (Phase == EPhase::FadingOut && Now >= PhaseEndTime)
+	{
+		Phase = EPhase::Gone;
+	}
+	return Phase == EPhase::Gone;
+}
+
+EVisibility SNotificationItemImpl::GetButtonVisibility(int32 ButtonIndex) const
+{
+	const FNotificationButtonInfo& Button = Buttons[ButtonIndex];
+	switch (CompletionState)
+	{
+		case CS_Pending:
+			return Button.VisibilityOnPending;
+		case CS_Success:
+			return Button.VisibilityOnSuccess;
+		case CS_Fail:
+			return Button.VisibilityOnFail;
+		default:
+			return Button.VisibilityOnNone;
+	}
+}

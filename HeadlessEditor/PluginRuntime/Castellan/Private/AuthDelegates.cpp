@@ -1,0 +1,3 @@
+#include "AuthDelegates.h"
+
+AuthDelegates::FOnUpgradeAvailable AuthDelegates::OnUpgradeAvailable;

@@ -1,0 +1,8 @@
+#include "KyroSaveGame.h"
+
+UKyroSaveGame::UKyroSaveGame()
+	: SaveSlotName(TEXT("KyroCastellanSettings"))
+	, UserIndex(0)
+	, bSkipVersion(false)
+{
+}

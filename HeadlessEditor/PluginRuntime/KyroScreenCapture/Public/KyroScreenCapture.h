@@ -1,0 +1,14 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "GameFramework/Actor.h"
+#include "UObject/ObjectMacros.h"
+
+#include "KyroScreenCapture.generated.h"
+
+/** Captures a monitor or a window into a render target. */
+UCLASS()
+class KYROSCREENCAPTURE_API AKyroScreenCapture : public AActor
+{
+	GENERATED_BODY()
+};
