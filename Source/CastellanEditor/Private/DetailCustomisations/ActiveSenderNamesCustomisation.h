@@ -17,12 +17,19 @@
 
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnCurrentSenderLost, bool);
 
-/** Sender names compare exactly: letter case makes a different sender. */
-struct FCaseSensitiveSenderNameKeyFuncs : BaseKeyFuncs<FString, FString>
+/** An option of the list: its name (held by the option) and its position. */
+struct FSenderNameOptionEntry
 {
-	static const FString& GetSetKey(const FString& Element) { return Element; }
-	static bool Matches(const FString& A, const FString& B) { return A.Equals(B, ESearchCase::CaseSensitive); }
-	static uint32 GetKeyHash(const FString& Key) { return FCrc::StrCrc32(*Key); }
+	const FString* Name;
+	int32 Index;
+};
+
+/** Options are found by name, compared exactly: letter case makes a different sender. */
+struct FSenderNameOptionKeyFuncs : BaseKeyFuncs<FSenderNameOptionEntry, const FString*>
+{
+	static const FString* GetSetKey(const FSenderNameOptionEntry& Element) { return Element.Name; }
+	static bool Matches(const FString* A, const FString* B) { return A->Equals(*B, ESearchCase::CaseSensitive); }
+	static uint32 GetKeyHash(const FString* Key) { return FCrc::StrCrc32(**Key); }
 };
 
 /**
@@ -52,46 +59,49 @@ public:
 			SenderNameOptions.Add(MakeShared<FString>(UseFirstAvailableSenderOption));
 		}
 
-		TSet<FString, FCaseSensitiveSenderNameKeyFuncs> Listed;
+		// Entries 1 and up are distinct names, so one lookup per live name finds its entry; an entry
+		// stays when a live name found it or added it, or when it is the stored name.
+		TSet<FSenderNameOptionEntry, FSenderNameOptionKeyFuncs> Listed;
 		Listed.Reserve(SenderNameOptions.Num() + LiveNames.Num());
 		for (int32 Index = 1; Index < SenderNameOptions.Num(); ++Index)
 		{
-			Listed.Add(*SenderNameOptions[Index]);
+			Listed.Add({SenderNameOptions[Index].Get(), Index});
 		}
-		TSet<FString, FCaseSensitiveSenderNameKeyFuncs> Live;
-		Live.Reserve(LiveNames.Num());
-		bool bFoundCurrent = false;
+		TArray<uint8> bSeenLive;
+		bSeenLive.Reserve(SenderNameOptions.Num() + LiveNames.Num());
+		for (int32 Index = 0; Index < SenderNameOptions.Num(); ++Index)
+		{
+			bSeenLive.Add(0);
+		}
 		for (const FString& LiveName : LiveNames)
 		{
-			bFoundCurrent |= LiveName.Equals(CurrentName);
-			Live.Add(LiveName);
-			if (!Listed.Contains(LiveName))
+			if (const FSenderNameOptionEntry* Entry = Listed.Find(&LiveName))
 			{
-				Listed.Add(LiveName);
-				SenderNameOptions.Add(MakeShared<FString>(LiveName));
+				bSeenLive[Entry->Index] = 1;
+				continue;
 			}
+			SenderNameOptions.Add(MakeShared<FString>(LiveName));
+			bSeenLive.Add(1);
+			Listed.Add({SenderNameOptions.Last().Get(), SenderNameOptions.Num() - 1});
 		}
 
+		const FSenderNameOptionEntry* CurrentEntry = Listed.Find(&CurrentName);
+		const int32 CurrentIndex = CurrentEntry ? CurrentEntry->Index : INDEX_NONE;
+		const bool bFoundCurrent = CurrentIndex != INDEX_NONE && bSeenLive[CurrentIndex] != 0;
 		OnCurrentSenderLost.Broadcast(!bUseFirstAvailableSender && !bFoundCurrent);
 
-		bool bAddCurrent = true;
 		TArray<TSharedPtr<FString>> Kept;
 		Kept.Reserve(SenderNameOptions.Num() + 1);
 		Kept.Add(SenderNameOptions[0]);
 		for (int32 Index = 1; Index < SenderNameOptions.Num(); ++Index)
 		{
-			const TSharedPtr<FString>& Option = SenderNameOptions[Index];
-			if (Option->Equals(CurrentName))
+			if (bSeenLive[Index] != 0 || Index == CurrentIndex)
 			{
-				bAddCurrent = false;
-				Kept.Add(Option);
-			}
-			else if (Live.Contains(*Option))
-			{
-				Kept.Add(Option);
+				Kept.Add(SenderNameOptions[Index]);
 			}
 		}
 		SenderNameOptions = MoveTemp(Kept);
+		const bool bAddCurrent = CurrentIndex == INDEX_NONE;
 
 		// A stored sender that has gone stays selectable.
 		if (bAddCurrent && !CurrentName.Equals(UseFirstAvailableSenderOption))

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "Containers/Array.h"
 #include "CoreTypes.h"
-
-#include <unordered_set>
 
 /** How a set finds the key of an element, hashes it and compares keys. */
 template <typename ElementType, typename InKeyType, bool bInAllowDuplicateKeys = false>
@@ -31,8 +30,8 @@ struct DefaultKeyFuncs : BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicat
 };
 
 /**
- * A hashed set. The headless editor keeps it in a standard unordered set driven by the key
- * functions; iteration order is not the engine's and nothing here relies on it.
+ * A hashed set: elements in an array and open-addressed buckets of indices, so adding an element
+ * allocates nothing per element, as the engine's set does. Only what the editor uses is here.
  */
 template <typename InElementType, typename KeyFuncs = DefaultKeyFuncs<InElementType>>
 class TSet
@@ -40,25 +39,105 @@ class TSet
 public:
 	typedef InElementType ElementType;
 
-	void Add(const InElementType& Element) { Elements.insert(Element); }
-	bool Contains(typename KeyFuncs::KeyInitType Key) const { return Elements.find(Key) != Elements.end(); }
-	int32 Num() const { return static_cast<int32>(Elements.size()); }
-	void Reserve(int32 Number) { Elements.reserve(static_cast<size_t>(Number)); }
+	void Add(const InElementType& Element)
+	{
+		if ((Elements.Num() + 1) * 2 > Buckets.Num())
+		{
+			Rehash(Buckets.Num() > 0 ? Buckets.Num() * 2 : 16);
+		}
+		// One hash: the probe ends at the matching element or at the free bucket it takes.
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element))) & Mask;
+		for (; Buckets[Bucket] != INDEX_NONE; Bucket = (Bucket + 1) & Mask)
+		{
+			if (KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Buckets[Bucket]]), KeyFuncs::GetSetKey(Element)))
+			{
+				return;
+			}
+		}
+		Elements.Add(Element);
+		Buckets[Bucket] = Elements.Num() - 1;
+	}
+
+	bool Contains(typename KeyFuncs::KeyInitType Key) const { return FindIndex(Key) != INDEX_NONE; }
+
+	/** The element whose key matches, or null. */
+	InElementType* Find(typename KeyFuncs::KeyInitType Key)
+	{
+		const int32 Index = FindIndex(Key);
+		return Index != INDEX_NONE ? &Elements[Index] : nullptr;
+	}
+	const InElementType* Find(typename KeyFuncs::KeyInitType Key) const
+	{
+		const int32 Index = FindIndex(Key);
+		return Index != INDEX_NONE ? &Elements[Index] : nullptr;
+	}
+
+	int32 Num() const { return Elements.Num(); }
+
+	void Reserve(int32 Number)
+	{
+		Elements.Reserve(Number);
+		int32 Wanted = 16;
+		while (Wanted < Number * 2)
+		{
+			Wanted *= 2;
+		}
+		if (Wanted > Buckets.Num())
+		{
+			Rehash(Wanted);
+		}
+	}
+
 	void Empty(int32 ExpectedNumElements = 0)
 	{
-		Elements.clear();
+		Elements.Empty();
+		Buckets.Empty();
 		Reserve(ExpectedNumElements);
 	}
 
 private:
-	struct FHasher
+	int32 FindIndex(typename KeyFuncs::KeyInitType Key) const
 	{
-		size_t operator()(const InElementType& Element) const { return KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element)); }
-	};
-	struct FEqual
-	{
-		bool operator()(const InElementType& A, const InElementType& B) const { return KeyFuncs::Matches(KeyFuncs::GetSetKey(A), KeyFuncs::GetSetKey(B)); }
-	};
+		if (Buckets.Num() == 0)
+		{
+			return INDEX_NONE;
+		}
+		const int32 Mask = Buckets.Num() - 1;
+		for (int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(Key)) & Mask;; Bucket = (Bucket + 1) & Mask)
+		{
+			const int32 Index = Buckets[Bucket];
+			if (Index == INDEX_NONE || KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Index]), Key))
+			{
+				return Index;
+			}
+		}
+	}
 
-	std::unordered_set<InElementType, FHasher, FEqual> Elements;
+	void Rehash(int32 NumBuckets)
+	{
+		Buckets.Empty(NumBuckets);
+		for (int32 Bucket = 0; Bucket < NumBuckets; ++Bucket)
+		{
+			Buckets.Add(INDEX_NONE);
+		}
+		for (int32 Index = 0; Index < Elements.Num(); ++Index)
+		{
+			Insert(Index);
+		}
+	}
+
+	void Insert(int32 Index)
+	{
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Elements[Index]))) & Mask;
+		while (Buckets[Bucket] != INDEX_NONE)
+		{
+			Bucket = (Bucket + 1) & Mask;
+		}
+		Buckets[Bucket] = Index;
+	}
+
+	TArray<InElementType> Elements;
+	TArray<int32> Buckets;
 };

@@ -14,6 +14,12 @@ struct FCrc
 		{
 			Hash = (Hash ^ static_cast<uint32>(*Data)) * 16777619u;
 		}
+		// Spread every character into the low bits, which hashed containers mask with.
+		Hash ^= Hash >> 16;
+		Hash *= 0x85ebca6bu;
+		Hash ^= Hash >> 13;
+		Hash *= 0xc2b2ae35u;
+		Hash ^= Hash >> 16;
 		return Hash;
 	}
 };
