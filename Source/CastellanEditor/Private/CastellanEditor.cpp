@@ -4,6 +4,9 @@
 #include "CastellanEditorCommands.h"
 #include "CastellanEditorStyle.h"
 #include "Framework/Commands/UICommandList.h"
+#include "DetailCustomisations/NDIActiveSenderNamesCustomisation.h"
+#include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
+#include "DetailCustomisations/SpoutActiveSenderNamesCustomisation.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "Kyro360CamCapture.h"
@@ -52,6 +55,12 @@ void FCastellanEditorModule::StartupModule()
 	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FCastellanEditorModule::RegisterMenus));
 
 	FPropertyEditorModule& PropertyModule = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroSpoutReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FSpoutActiveSenderNamesCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroScreenCaptureOptions"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FScreenCaptureDetailsCustomisation::MakeInstance));
+	if (FModuleManager::Get().IsModuleLoaded(TEXT("KyroNDI")))
+	{
+		PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroNDIReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FNDIActiveSenderNamesCustomisation::MakeInstance));
+	}
 	PropertyModule.NotifyCustomizationModuleChanged();
 
 	LoadUpgradeSettings();

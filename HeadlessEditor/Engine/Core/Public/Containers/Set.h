@@ -1,0 +1,143 @@
+#pragma once
+
+#include "Containers/Array.h"
+#include "CoreTypes.h"
+
+/** How a set finds the key of an element, hashes it and compares keys. */
+template <typename ElementType, typename InKeyType, bool bInAllowDuplicateKeys = false>
+struct BaseKeyFuncs
+{
+	typedef InKeyType KeyType;
+	typedef const InKeyType& KeyInitType;
+	typedef const ElementType& ElementInitType;
+
+	enum
+	{
+		bAllowDuplicateKeys = bInAllowDuplicateKeys
+	};
+};
+
+/** Elements are their own keys, compared with == and hashed with GetTypeHash. */
+template <typename ElementType, bool bInAllowDuplicateKeys = false>
+struct DefaultKeyFuncs : BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicateKeys>
+{
+	typedef typename BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicateKeys>::KeyInitType KeyInitType;
+	typedef typename BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicateKeys>::ElementInitType ElementInitType;
+
+	static KeyInitType GetSetKey(ElementInitType Element) { return Element; }
+	static bool Matches(KeyInitType A, KeyInitType B) { return A == B; }
+	static uint32 GetKeyHash(KeyInitType Key) { return GetTypeHash(Key); }
+};
+
+/**
+ * A hashed set: elements in an array and open-addressed buckets of indices, so adding an element
+ * allocates nothing per element, as the engine's set does. Only what the editor uses is here.
+ */
+template <typename InElementType, typename KeyFuncs = DefaultKeyFuncs<InElementType>>
+class TSet
+{
+public:
+	typedef InElementType ElementType;
+
+	void Add(const InElementType& Element)
+	{
+		if ((Elements.Num() + 1) * 2 > Buckets.Num())
+		{
+			Rehash(Buckets.Num() > 0 ? Buckets.Num() * 2 : 16);
+		}
+		// One hash: the probe ends at the matching element or at the free bucket it takes.
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element))) & Mask;
+		for (; Buckets[Bucket] != INDEX_NONE; Bucket = (Bucket + 1) & Mask)
+		{
+			if (KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Buckets[Bucket]]), KeyFuncs::GetSetKey(Element)))
+			{
+				return;
+			}
+		}
+		Elements.Add(Element);
+		Buckets[Bucket] = Elements.Num() - 1;
+	}
+
+	bool Contains(typename KeyFuncs::KeyInitType Key) const { return FindIndex(Key) != INDEX_NONE; }
+
+	/** The element whose key matches, or null. */
+	InElementType* Find(typename KeyFuncs::KeyInitType Key)
+	{
+		const int32 Index = FindIndex(Key);
+		return Index != INDEX_NONE ? &Elements[Index] : nullptr;
+	}
+	const InElementType* Find(typename KeyFuncs::KeyInitType Key) const
+	{
+		const int32 Index = FindIndex(Key);
+		return Index != INDEX_NONE ? &Elements[Index] : nullptr;
+	}
+
+	int32 Num() const { return Elements.Num(); }
+
+	void Reserve(int32 Number)
+	{
+		Elements.Reserve(Number);
+		int32 Wanted = 16;
+		while (Wanted < Number * 2)
+		{
+			Wanted *= 2;
+		}
+		if (Wanted > Buckets.Num())
+		{
+			Rehash(Wanted);
+		}
+	}
+
+	void Empty(int32 ExpectedNumElements = 0)
+	{
+		Elements.Empty();
+		Buckets.Empty();
+		Reserve(ExpectedNumElements);
+	}
+
+private:
+	int32 FindIndex(typename KeyFuncs::KeyInitType Key) const
+	{
+		if (Buckets.Num() == 0)
+		{
+			return INDEX_NONE;
+		}
+		const int32 Mask = Buckets.Num() - 1;
+		for (int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(Key)) & Mask;; Bucket = (Bucket + 1) & Mask)
+		{
+			const int32 Index = Buckets[Bucket];
+			if (Index == INDEX_NONE || KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Index]), Key))
+			{
+				return Index;
+			}
+		}
+	}
+
+	void Rehash(int32 NumBuckets)
+	{
+		Buckets.Empty(NumBuckets);
+		for (int32 Bucket = 0; Bucket < NumBuckets; ++Bucket)
+		{
+			Buckets.Add(INDEX_NONE);
+		}
+		for (int32 Index = 0; Index < Elements.Num(); ++Index)
+		{
+			Insert(Index);
+		}
+	}
+
+	void Insert(int32 Index)
+	{
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Elements[Index]))) & Mask;
+		while (Buckets[Bucket] != INDEX_NONE)
+		{
+			Bucket = (Bucket + 1) & Mask;
+		}
+		Buckets[Bucket] = Index;
+	}
+
+	TArray<InElementType> Elements;
+	TArray<int32> Buckets;
+};

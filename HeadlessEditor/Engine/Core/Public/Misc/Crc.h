@@ -1,0 +1,25 @@
+#pragma once
+
+#include "CoreTypes.h"
+
+/** Checksums. StrCrc32 is case-sensitive, as the engine's is. */
+struct FCrc
+{
+	template <typename CharType>
+	static uint32 StrCrc32(const CharType* Data, uint32 CRC = 0)
+	{
+		// FNV-1a over the characters; the engine's table-driven CRC gives other numbers, never relied upon.
+		uint32 Hash = ~CRC ^ 2166136261u;
+		for (; *Data; ++Data)
+		{
+			Hash = (Hash ^ static_cast<uint32>(*Data)) * 16777619u;
+		}
+		// Spread every character into the low bits, which hashed containers mask with.
+		Hash ^= Hash >> 16;
+		Hash *= 0x85ebca6bu;
+		Hash ^= Hash >> 13;
+		Hash *= 0xc2b2ae35u;
+		Hash ^= Hash >> 16;
+		return Hash;
+	}
+};

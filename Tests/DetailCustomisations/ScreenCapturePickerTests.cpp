@@ -1,0 +1,91 @@
+#include "DetailsViewDriver.h"
+#include "Editor.h"
+#include "Editor/EditorEngine.h"
+#include "Engine/World.h"
+#include "HeadlessEditorSession.h"
+#include "KyroScreenCapture.h"
+#include "SourceListControls.h"
+#include "Widgets/Input/SComboBox.h"
+#include "WidgetDriver.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+	typedef SComboBox<TSharedPtr<FString>> FStringCombo;
+
+	class ScreenCapturePickerTests : public ::testing::Test
+	{
+	protected:
+		ScreenCapturePickerTests()
+		{
+			HeadlessSourceLists::SetMonitorNames({TEXT("Main"), TEXT("Side")});
+			HeadlessSourceLists::SetWindowNames({TEXT("Editor"), TEXT("Browser")});
+		}
+		virtual void TearDown() override { HeadlessSourceLists::Reset(); }
+
+		AKyroScreenCapture* Spawn() { return GEditor->GetEditorWorldContext().World()->SpawnActor<AKyroScreenCapture>(); }
+
+		FHeadlessEditorSession Session;
+	};
+}
+
+TEST_F(ScreenCapturePickerTests, RowsFollowTheCaptureTypeLive)
+{
+	AKyroScreenCapture* Capture = Spawn();
+	FDetailsViewDriver Driver({Capture});
+	const TSharedPtr<FHeadlessDetailRow> Struct = Driver.FindPropertyRow(TEXT("Options"));
+	ASSERT_TRUE(Struct.IsValid());
+	EXPECT_EQ(FDetailsViewDriver::GetRowLabels(Struct->Children), TArray<FString>({TEXT("Active"), TEXT("Render Target"), TEXT("Screen Capture Type"), TEXT("Monitor Name"), TEXT("Window Name"), TEXT("Capture Cursor")}));
+	const TSharedPtr<FHeadlessDetailRow> Monitor = Driver.FindCustomRow(TEXT("MonitorName"));
+	const TSharedPtr<FHeadlessDetailRow> Window = Driver.FindCustomRow(TEXT("WindowName"));
+	EXPECT_EQ(Monitor->GetVisibility(), EVisibility::Visible);
+	EXPECT_EQ(Window->GetVisibility(), EVisibility::Collapsed);
+
+	Driver.FindPropertyRow(TEXT("ScreenCaptureType"))->PropertyHandle->SetValue(uint8(1));
+	EXPECT_EQ(Monitor->GetVisibility(), EVisibility::Collapsed);
+	EXPECT_EQ(Window->GetVisibility(), EVisibility::Visible);
+	Driver.FindPropertyRow(TEXT("ScreenCaptureType"))->PropertyHandle->SetValue(uint8(2));
+	EXPECT_EQ(Window->GetVisibility(), EVisibility::Collapsed);
+	EXPECT_EQ(Driver.GetView().GetHiddenPropertyNames(), TArray<FName>({TEXT("MonitorName"), TEXT("WindowName")}));
+}
+
+TEST_F(ScreenCapturePickerTests, HiddenRenderTargetDropsActiveAndRenderTarget)
+{
+	AKyroScreenCapture* Capture = Spawn();
+	Capture->Options.bHideRenderTarget = true;
+	FDetailsViewDriver Driver({Capture});
+	EXPECT_EQ(FDetailsViewDriver::GetRowLabels(Driver.FindPropertyRow(TEXT("Options"))->Children), TArray<FString>({TEXT("Screen Capture Type"), TEXT("Monitor Name"), TEXT("Window Name"), TEXT("Capture Cursor")}));
+}
+
+TEST_F(ScreenCapturePickerTests, EmptyNamesTakeTheFirstSourcesAndUnknownNamesStayUnselected)
+{
+	AKyroScreenCapture* Capture = Spawn();
+	Capture->Options.WindowName = TEXT("editor");
+	FDetailsViewDriver Driver({Capture});
+	EXPECT_EQ(Capture->Options.MonitorName, TEXT("Main"));
+	EXPECT_EQ(Capture->Options.WindowName, TEXT("editor"));
+	const TSharedPtr<FStringCombo> WindowCombo = FDetailsViewDriver::FindValueWidget<FStringCombo>(*Driver.FindCustomRow(TEXT("WindowName")), TEXT("SComboBox"));
+	EXPECT_FALSE(WindowCombo->GetSelectedItem().IsValid());
+	EXPECT_EQ(FWidgetDriver::GetDisplayedText(WindowCombo.ToSharedRef()).Get(FString()), TEXT("editor"));
+	const TSharedPtr<FStringCombo> MonitorCombo = FDetailsViewDriver::FindValueWidget<FStringCombo>(*Driver.FindCustomRow(TEXT("MonitorName")), TEXT("SComboBox"));
+	EXPECT_EQ(*MonitorCombo->GetSelectedItem(), TEXT("Main"));
+}
+
+TEST_F(ScreenCapturePickerTests, PickWritesTheNameWithNotifications)
+{
+	AKyroScreenCapture* Capture = Spawn();
+	FDetailsViewDriver Driver({Capture});
+	const TSharedPtr<FStringCombo> MonitorCombo = FDetailsViewDriver::FindValueWidget<FStringCombo>(*Driver.FindCustomRow(TEXT("MonitorName")), TEXT("SComboBox"));
+	const int32 Before = Driver.GetView().GetFinishedChangingCount();
+	FWidgetDriver::PickComboItem(MonitorCombo.ToSharedRef(), FWidgetDriver::GetComboOptions(MonitorCombo.ToSharedRef())[1]);
+	EXPECT_EQ(Capture->Options.MonitorName, TEXT("Side"));
+	// The explicit post-change and the write's own post-change.
+	EXPECT_EQ(Driver.GetView().GetFinishedChangingCount(), Before + 2);
+}
+
+TEST_F(ScreenCapturePickerTests, EmptyMonitorListWithAnEmptyNameIsFatal)
+{
+	HeadlessSourceLists::SetMonitorNames({});
+	EXPECT_DEATH(FDetailsViewDriver Driver({Spawn()}), "");
+}
