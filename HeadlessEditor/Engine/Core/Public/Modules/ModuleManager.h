@@ -42,9 +42,9 @@ public:
 	template <typename TModuleInterface>
 	static TModuleInterface& GetModuleChecked(const FName ModuleName)
 	{
-		IModuleInterface* Module = Get().GetModule(ModuleName);
-		checkf(Module, TEXT("Module '%s' is not loaded"), *ModuleName.ToString());
-		return static_cast<TModuleInterface&>(*Module);
+		FModuleManager& ModuleManager = Get();
+		checkf(ModuleManager.IsModuleLoaded(ModuleName), TEXT("Tried to get module interface for unloaded module: '%s'"), *ModuleName.ToString());
+		return static_cast<TModuleInterface&>(*ModuleManager.GetModule(ModuleName));
 	}
 	template <typename TModuleInterface>
 	static TModuleInterface* GetModulePtr(const FName ModuleName)
@@ -79,23 +79,23 @@ private:
 	int32 NextLoadOrder = 0;
 };
 
-#define IMPLEMENT_MODULE(ModuleImplClass, ModuleName) \
-	namespace \
-	{ \
-		IModuleInterface* InitializeModule_##ModuleName() \
-		{ \
-			return new ModuleImplClass(); \
-		} \
-		struct FModuleRegistrant_##ModuleName \
-		{ \
-			FModuleRegistrant_##ModuleName() \
-			{ \
+#define IMPLEMENT_MODULE(ModuleImplClass, ModuleName)                                                                     \
+	namespace                                                                                                             \
+	{                                                                                                                     \
+		IModuleInterface* InitializeModule_##ModuleName()                                                                 \
+		{                                                                                                                 \
+			return new ModuleImplClass();                                                                                 \
+		}                                                                                                                 \
+		struct FModuleRegistrant_##ModuleName                                                                             \
+		{                                                                                                                 \
+			FModuleRegistrant_##ModuleName()                                                                              \
+			{                                                                                                             \
 				FModuleManager::RegisterStaticallyLinkedModule(FName(TEXT(#ModuleName)), &InitializeModule_##ModuleName); \
-			} \
-		} ModuleRegistrant_##ModuleName; \
-	} \
-	extern "C" void IMPLEMENT_MODULE_##ModuleName() \
-	{ \
+			}                                                                                                             \
+		} ModuleRegistrant_##ModuleName;                                                                                  \
+	}                                                                                                                     \
+	extern "C" void IMPLEMENT_MODULE_##ModuleName()                                                                       \
+	{                                                                                                                     \
 	}
 
 #define IMPLEMENT_GAME_MODULE(ModuleImplClass, ModuleName) IMPLEMENT_MODULE(ModuleImplClass, ModuleName)
