@@ -9,22 +9,22 @@ struct CORE_API FDebug
 	static void EnsureFailed(const ANSICHAR* Expr, const ANSICHAR* File, int32 Line, const TCHAR* Format = TEXT(""), ...);
 };
 
-#define check(expr)                                          \
-	do                                                       \
-	{                                                        \
-		if (!(expr))                                         \
-		{                                                    \
+#define check(expr) \
+	do \
+	{ \
+		if (!(expr)) \
+		{ \
 			FDebug::AssertFailed(#expr, __FILE__, __LINE__); \
-		}                                                    \
+		} \
 	} while (false)
 
-#define checkf(expr, format, ...)                                                   \
-	do                                                                              \
-	{                                                                               \
-		if (!(expr))                                                                \
-		{                                                                           \
+#define checkf(expr, format, ...) \
+	do \
+	{ \
+		if (!(expr)) \
+		{ \
 			FDebug::AssertFailed(#expr, __FILE__, __LINE__, format, ##__VA_ARGS__); \
-		}                                                                           \
+		} \
 	} while (false)
 
 #define checkNoEntry() FDebug::AssertFailed("Enclosing block should never be called", __FILE__, __LINE__)
@@ -41,7 +41,8 @@ struct CORE_API FDebug
 			bExecuted = true; \
 			FDebug::EnsureFailed(#InExpression, __FILE__, __LINE__, Format, ##__VA_ARGS__); \
 		} \
-		return false; }()))
+		return false; \
+	}()))
 
 #define ensure(InExpression) UE_ENSURE_IMPL(false, InExpression, TEXT(""))
 #define ensureMsgf(InExpression, InFormat, ...) UE_ENSURE_IMPL(false, InExpression, InFormat, ##__VA_ARGS__)

@@ -79,23 +79,23 @@ private:
 	int32 NextLoadOrder = 0;
 };
 
-#define IMPLEMENT_MODULE(ModuleImplClass, ModuleName)                                                                     \
-	namespace                                                                                                             \
-	{                                                                                                                     \
-		IModuleInterface* InitializeModule_##ModuleName()                                                                 \
-		{                                                                                                                 \
-			return new ModuleImplClass();                                                                                 \
-		}                                                                                                                 \
-		struct FModuleRegistrant_##ModuleName                                                                             \
-		{                                                                                                                 \
-			FModuleRegistrant_##ModuleName()                                                                              \
-			{                                                                                                             \
+#define IMPLEMENT_MODULE(ModuleImplClass, ModuleName) \
+	namespace \
+	{ \
+		IModuleInterface* InitializeModule_##ModuleName() \
+		{ \
+			return new ModuleImplClass(); \
+		} \
+		struct FModuleRegistrant_##ModuleName \
+		{ \
+			FModuleRegistrant_##ModuleName() \
+			{ \
 				FModuleManager::RegisterStaticallyLinkedModule(FName(TEXT(#ModuleName)), &InitializeModule_##ModuleName); \
-			}                                                                                                             \
-		} ModuleRegistrant_##ModuleName;                                                                                  \
-	}                                                                                                                     \
-	extern "C" void IMPLEMENT_MODULE_##ModuleName()                                                                       \
-	{                                                                                                                     \
+			} \
+		} ModuleRegistrant_##ModuleName; \
+	} \
+	extern "C" void IMPLEMENT_MODULE_##ModuleName() \
+	{ \
 	}
 
 #define IMPLEMENT_GAME_MODULE(ModuleImplClass, ModuleName) IMPLEMENT_MODULE(ModuleImplClass, ModuleName)
