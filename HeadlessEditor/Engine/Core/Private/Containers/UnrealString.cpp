@@ -189,7 +189,8 @@ FString& FString::AppendChar(TCHAR InChar)
 
 FString& FString::operator/=(const FString& Str)
 {
-	if (!Data.empty() && Data.back() != u'/' && !(Str.Len() > 0 && Str.Data.front() == u'/'))
+	// Either separator ends a directory, so neither gets another one appended.
+	if (!Data.empty() && Data.back() != u'/' && Data.back() != u'\\' && !(Str.Len() > 0 && Str.Data.front() == u'/'))
 	{
 		Data.push_back(u'/');
 	}
@@ -215,12 +216,19 @@ int32 FString::Find(const TCHAR* SubStr, ESearchCase::Type SearchCase, ESearchDi
 		return INDEX_NONE;
 	}
 	const int32 NeedleLen = static_cast<int32>(Needle.size());
-	auto MatchesAt = [&](int32 Position) {
+	auto MatchesAt = [&](int32 Position)
+	{
 		return CompareCharacters(std::u16string_view(Data).substr(static_cast<SIZE_T>(Position), Needle.size()), Needle, SearchCase) == 0;
 	};
 	if (SearchDir == ESearchDir::FromStart)
 	{
-		for (int32 Position = StartPosition == INDEX_NONE ? 0 : StartPosition; Position + NeedleLen <= Len(); ++Position)
+		// A start position is clamped into the string, as the engine does.
+		int32 Position = 0;
+		if (StartPosition != INDEX_NONE && Len() > 0)
+		{
+			Position = StartPosition < 0 ? 0 : (StartPosition > Len() - 1 ? Len() - 1 : StartPosition);
+		}
+		for (; Position + NeedleLen <= Len(); ++Position)
 		{
 			if (MatchesAt(Position))
 			{
@@ -230,8 +238,9 @@ int32 FString::Find(const TCHAR* SubStr, ESearchCase::Type SearchCase, ESearchDi
 	}
 	else
 	{
-		int32 Position = (StartPosition == INDEX_NONE ? Len() : StartPosition) - NeedleLen;
-		for (; Position >= 0; --Position)
+		// Searching backwards starts at the end when the position is past it.
+		const int32 SearchEnd = (StartPosition == INDEX_NONE || StartPosition >= Len()) ? Len() : StartPosition;
+		for (int32 Position = SearchEnd - NeedleLen; Position >= 0; --Position)
 		{
 			if (MatchesAt(Position))
 			{
@@ -290,10 +299,15 @@ FString FString::RightChop(int32 Count) const
 
 FString FString::Mid(int32 Start, int32 Count) const
 {
+	if (Count < 0)
+	{
+		return FString();
+	}
+	// The end is measured from the requested start, so a negative start shortens the result.
+	const int64 RequestedEnd = static_cast<int64>(Start) + Count;
 	const int32 ClampedStart = Start < 0 ? 0 : (Start > Len() ? Len() : Start);
-	const int32 Available = Len() - ClampedStart;
-	const int32 ClampedCount = Count < 0 ? 0 : (Count > Available ? Available : Count);
-	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(ClampedStart), static_cast<SIZE_T>(ClampedCount)));
+	const int32 End = static_cast<int32>(RequestedEnd < ClampedStart ? ClampedStart : (RequestedEnd > Len() ? Len() : RequestedEnd));
+	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(ClampedStart), static_cast<SIZE_T>(End - ClampedStart)));
 }
 
 bool FString::Split(const FString& InS, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
@@ -316,12 +330,18 @@ bool FString::Split(const FString& InS, FString* LeftS, FString* RightS, ESearch
 
 int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, bool InCullEmpty) const
 {
+	check(pchDelim);
 	OutArray.Reset();
 	const std::u16string_view Delim(pchDelim);
+	// An empty string or delimiter yields no pieces at all, even when empty pieces are kept.
+	if (Data.empty() || Delim.empty())
+	{
+		return 0;
+	}
 	SIZE_T Start = 0;
 	while (Start <= Data.size())
 	{
-		const SIZE_T Found = Delim.empty() ? std::u16string::npos : Data.find(Delim, Start);
+		const SIZE_T Found = Data.find(Delim, Start);
 		const SIZE_T End = Found == std::u16string::npos ? Data.size() : Found;
 		FString Piece(std::u16string_view(Data).substr(Start, End - Start));
 		if (!InCullEmpty || !Piece.IsEmpty())
@@ -411,25 +431,25 @@ bool FString::IsNumeric() const
 	{
 		return false;
 	}
+	// As the engine's check: an optional sign, then digits with at most one dot (a bare sign or dot passes).
 	SIZE_T Index = (Data[0] == u'-' || Data[0] == u'+') ? 1 : 0;
 	bool bHasDot = false;
-	bool bHasDigit = false;
 	for (; Index < Data.size(); ++Index)
 	{
-		if (Data[Index] == u'.' && !bHasDot)
+		if (Data[Index] == u'.')
 		{
+			if (bHasDot)
+			{
+				return false;
+			}
 			bHasDot = true;
 		}
-		else if (FChar::IsDigit(Data[Index]))
-		{
-			bHasDigit = true;
-		}
-		else
+		else if (!FChar::IsDigit(Data[Index]))
 		{
 			return false;
 		}
 	}
-	return bHasDigit;
+	return true;
 }
 
 TArray<TCHAR> FString::GetCharArray() const

@@ -32,35 +32,69 @@ namespace
 		return GroupDigits(std::to_string(Value));
 	}
 
-	FString FormatDouble(double Value)
+	// Rounds half to even after snapping values within a hair of one half onto it, as FMath does.
+	double RoundHalfToEven(double Value)
 	{
-		// At most three fractional digits, trailing zeros dropped, as the default formatting options do.
-		char Buffer[64];
-		std::snprintf(Buffer, sizeof(Buffer), "%.3f", Value);
-		std::string Text(Buffer);
-		while (!Text.empty() && Text.back() == '0')
+		double IntegralPart = 0.0;
+		const double FractionalPart = std::modf(Value, &IntegralPart);
+		const double Half = Value < 0.0 ? -0.5 : 0.5;
+		if (std::fabs(FractionalPart - Half) <= 1.e-8)
 		{
-			Text.pop_back();
+			Value = IntegralPart + Half;
 		}
-		if (!Text.empty() && Text.back() == '.')
+		const bool bIsNegative = Value < 0.0;
+		const bool bIsEven = static_cast<uint64>(std::floor(bIsNegative ? -Value : Value)) % 2 == 0;
+		if (bIsEven)
 		{
-			Text.pop_back();
+			return bIsNegative ? std::floor(Value + 0.5) : std::ceil(Value - 0.5);
 		}
-		const SIZE_T Dot = Text.find('.');
-		const std::string IntegerPart = Text.substr(0, Dot);
-		const std::string Fraction = Dot == std::string::npos ? std::string() : Text.substr(Dot);
-		return GroupDigits(IntegerPart) + FString(Fraction.c_str());
+		return bIsNegative ? std::ceil(Value - 0.5) : std::floor(Value + 0.5);
 	}
 
+	FString FormatDouble(double Value)
+	{
+		// The default options: at most three fractional digits, rounded half to even, trailing zeros
+		// dropped; negative zero keeps its sign.
+		constexpr int32 MaximumFractionalDigits = 3;
+		constexpr double FractionalScale = 1000.0;
+		if (std::isnan(Value))
+		{
+			return FString(TEXT("NaN"));
+		}
+		const bool bIsNegative = std::signbit(Value);
+		double IntegralPart = 0.0;
+		double Fraction = RoundHalfToEven(std::modf(Value, &IntegralPart) * FractionalScale);
+		if (std::fabs(Fraction) >= FractionalScale)
+		{
+			IntegralPart += bIsNegative ? -1.0 : 1.0;
+			Fraction += bIsNegative ? FractionalScale : -FractionalScale;
+		}
+		FString Result = GroupDigits(std::to_string(static_cast<uint64>(std::fabs(IntegralPart))));
+		std::string FractionDigits = std::to_string(static_cast<uint64>(std::fabs(Fraction)));
+		if (FractionDigits != "0")
+		{
+			FractionDigits.insert(0, static_cast<SIZE_T>(MaximumFractionalDigits) - FractionDigits.size(), '0');
+			while (FractionDigits.back() == '0')
+			{
+				FractionDigits.pop_back();
+			}
+			Result += TEXT(".");
+			Result += FString(FractionDigits.c_str());
+		}
+		return bIsNegative ? TEXT("-") + Result : Result;
+	}
+
+	/** Lookup receives the argument's name and its position among the pattern's arguments. */
 	template <typename LookupType>
 	FString ApplyPattern(const FString& Pattern, const LookupType& Lookup)
 	{
 		FString Result;
+		int32 ArgumentNumber = 0;
 		const int32 Length = Pattern.Len();
 		for (int32 Index = 0; Index < Length; ++Index)
 		{
 			const TCHAR Char = Pattern[Index];
-			if (Char == u'`' && Index + 1 < Length && (Pattern[Index + 1] == u'{' || Pattern[Index + 1] == u'}' || Pattern[Index + 1] == u'`'))
+			if (Char == u'`' && Index + 1 < Length && (Pattern[Index + 1] == u'{' || Pattern[Index + 1] == u'}' || Pattern[Index + 1] == u'`' || Pattern[Index + 1] == u'|'))
 			{
 				Result.AppendChar(Pattern[++Index]);
 				continue;
@@ -79,7 +113,7 @@ namespace
 				if (Close != INDEX_NONE)
 				{
 					const FString ArgumentName = Pattern.Mid(Index + 1, Close - Index - 1);
-					const FFormatArgumentValue* Argument = Lookup(ArgumentName);
+					const FFormatArgumentValue* Argument = Lookup(ArgumentName, ArgumentNumber++);
 					// An argument that was not given stays in the text, as the engine leaves it.
 					Result += Argument ? Argument->ToFormattedString() : Pattern.Mid(Index, Close - Index + 1);
 					Index = Close;
@@ -145,10 +179,10 @@ FText FText::AsCultureInvariant(FText Text)
 	return AsCultureInvariant(Text.ToString());
 }
 
-#define CASTELLAN_TEXT_AS_NUMBER(Type, Formatter) \
+#define CASTELLAN_TEXT_AS_NUMBER(Type, Formatter)                                              \
 	FText FText::AsNumber(Type Val, const FNumberFormattingOptions* const, const FCulturePtr&) \
-	{ \
-		return FromString(Formatter(Val)); \
+	{                                                                                          \
+		return FromString(Formatter(Val));                                                     \
 	}
 CASTELLAN_TEXT_AS_NUMBER(float, FormatDouble)
 CASTELLAN_TEXT_AS_NUMBER(double, FormatDouble)
@@ -165,19 +199,39 @@ CASTELLAN_TEXT_AS_NUMBER(uint64, FormatUnsigned)
 
 FText FText::Format(FTextFormat Fmt, const FFormatNamedArguments& InArguments)
 {
-	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name) { return InArguments.Find(Name); }));
+	// Argument names match exactly, case included.
+	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name, int32) -> const FFormatArgumentValue*
+		{
+		for (const TPair<FString, FFormatArgumentValue>& Pair : InArguments)
+		{
+			if (Pair.Key.Equals(Name, ESearchCase::CaseSensitive))
+			{
+				return &Pair.Value;
+			}
+		}
+		return nullptr; }));
 }
 
 FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& InArguments)
 {
-	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name) -> const FFormatArgumentValue* {
-		if (!Name.IsNumeric())
+	return FromString(ApplyPattern(Fmt.GetSourceText().ToString(), [&InArguments](const FString& Name, int32 ArgumentNumber) -> const FFormatArgumentValue*
 		{
-			return nullptr;
+		// A name that is not a plain number stands for the argument at its own position in the pattern.
+		int32 Index = Name.IsEmpty() ? INDEX_NONE : 0;
+		for (const TCHAR Char : Name)
+		{
+			if (!FChar::IsDigit(Char))
+			{
+				Index = INDEX_NONE;
+				break;
+			}
+			Index = Index * 10 + (Char - u'0');
 		}
-		const int32 Index = std::stoi(Name.ToUtf8());
-		return InArguments.IsValidIndex(Index) ? &InArguments[Index] : nullptr;
-	}));
+		if (Index == INDEX_NONE)
+		{
+			Index = ArgumentNumber;
+		}
+		return InArguments.IsValidIndex(Index) ? &InArguments[Index] : nullptr; }));
 }
 
 const FString& FText::ToString() const
@@ -190,11 +244,33 @@ bool FText::IsEmpty() const
 	return Data->Display.IsEmpty();
 }
 
+bool FText::IsWhitespace(const TCHAR Char)
+{
+	// Unicode's White_Space as ICU's u_isWhitespace reads it: separators except the no-break
+	// spaces, plus the ASCII control whitespace and the information separators.
+	switch (Char)
+	{
+		case 0x00A0:
+		case 0x2007:
+		case 0x202F:
+			return false;
+		case 0x0020:
+		case 0x1680:
+		case 0x205F:
+		case 0x3000:
+		case 0x2028:
+		case 0x2029:
+			return true;
+		default:
+			return (Char >= 0x0009 && Char <= 0x000D) || (Char >= 0x001C && Char <= 0x001F) || (Char >= 0x2000 && Char <= 0x200A);
+	}
+}
+
 bool FText::IsEmptyOrWhitespace() const
 {
 	for (const TCHAR Character : Data->Display)
 	{
-		if (!FChar::IsWhitespace(Character))
+		if (!IsWhitespace(Character))
 		{
 			return false;
 		}
@@ -365,8 +441,8 @@ void FTextBuilder::AppendLineFormat(const FTextFormat& Pattern, const FFormatNam
 
 void FTextBuilder::Clear()
 {
+	// Clearing drops the lines only; the indentation carries on.
 	Lines.Reset();
-	IndentCount = 0;
 }
 
 bool FTextBuilder::IsEmpty()

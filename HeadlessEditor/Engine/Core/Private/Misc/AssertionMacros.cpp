@@ -21,6 +21,12 @@ void FDebug::AssertFailed(const ANSICHAR* Expr, const ANSICHAR* File, int32 Line
 
 void FDebug::EnsureFailed(const ANSICHAR* Expr, const ANSICHAR* File, int32 Line, const TCHAR* Format, ...)
 {
-	UE_LOG(LogOutputDevice, Error, TEXT("Ensure condition failed: %s [File:%s] [Line: %i]"), *FString(Expr), *FString(File), Line);
-	std::fprintf(stderr, "Ensure condition failed: %s [File:%s] [Line: %d]\n", Expr, File, Line);
+	va_list Args;
+	va_start(Args, Format);
+	const FString Message = UE::Core::Private::FormatV(Format, Args);
+	va_end(Args);
+	// The message of ensureMsgf follows on its own line.
+	const FString Report = FString::Printf(TEXT("Ensure condition failed: %s [File:%s] [Line: %i]"), *FString(Expr), *FString(File), Line) + (Message.IsEmpty() ? FString() : TEXT("\n") + Message);
+	UE_LOG(LogOutputDevice, Error, TEXT("%s"), *Report);
+	std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(*Report));
 }

@@ -60,8 +60,9 @@ IModuleInterface* FModuleManager::LoadModule(const FName InModuleName, ELoadModu
 	if (!Info->Module)
 	{
 		Info->Module.reset(Info->Initializer());
-		Info->LoadOrder = NextLoadOrder++;
 		Info->Module->StartupModule();
+		// Ordered after the modules its start-up loaded, so it shuts down before them.
+		Info->LoadOrder = NextLoadOrder++;
 	}
 	return Info->Module.get();
 }
@@ -69,7 +70,7 @@ IModuleInterface* FModuleManager::LoadModule(const FName InModuleName, ELoadModu
 IModuleInterface& FModuleManager::LoadModuleChecked(const FName InModuleName)
 {
 	IModuleInterface* Module = LoadModule(InModuleName);
-	checkf(Module, TEXT("%s"), *FString::Printf(TEXT("ModuleManager: Unable to load module '%s'"), *InModuleName.ToString()));
+	checkf(Module, TEXT("%s"), *InModuleName.ToString());
 	return *Module;
 }
 
@@ -97,12 +98,18 @@ void FModuleManager::UnloadModulesAtShutdown()
 	TArray<FModuleInfo*> Loaded;
 	for (const std::shared_ptr<FModuleInfo>& Info : Modules)
 	{
-		if (Info->Module)
+		if (Info->Module && Info->Module->SupportsAutomaticShutdown())
 		{
 			Loaded.Add(Info.get());
 		}
 	}
-	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B) { return A->LoadOrder > B->LoadOrder; });
+	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B)
+		{ return A->LoadOrder > B->LoadOrder; });
+	// Every module hears PreUnloadCallback before the first one shuts down.
+	for (FModuleInfo* Info : Loaded)
+	{
+		Info->Module->PreUnloadCallback();
+	}
 	for (FModuleInfo* Info : Loaded)
 	{
 		UnloadModule(Info->Name, true);
@@ -119,7 +126,8 @@ TArray<FName> FModuleManager::GetLoadedModuleNames() const
 			Loaded.Add(Info.get());
 		}
 	}
-	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B) { return A->LoadOrder < B->LoadOrder; });
+	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B)
+		{ return A->LoadOrder < B->LoadOrder; });
 	TArray<FName> Names;
 	for (const FModuleInfo* Info : Loaded)
 	{

@@ -34,7 +34,8 @@ namespace
 
 FName::FName(const WIDECHAR* Name, EFindName FindType)
 {
-	if (Name && *Name)
+	// "None" in any case is the name table's first entry, NAME_None.
+	if (Name && *Name && !FString(Name).Equals(TEXT("None"), ESearchCase::IgnoreCase))
 	{
 		FNameTable& Table = GetNameTable();
 		std::lock_guard<std::mutex> Lock(Table.Mutex);

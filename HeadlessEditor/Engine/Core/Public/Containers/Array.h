@@ -171,17 +171,31 @@ public:
 		check(Count >= 0 && Index >= 0 && Index + Count <= Num());
 		Data.erase(Data.begin() + Index, Data.begin() + Index + Count);
 	}
-	void RemoveAtSwap(int32 Index, int32 Count = 1, bool bAllowShrinking = true) { RemoveAt(Index, Count); }
+	/** Fills the hole with the array's last elements instead of shifting, so order is not kept. */
+	void RemoveAtSwap(int32 Index, int32 Count = 1, bool bAllowShrinking = true)
+	{
+		check(Count >= 0 && Index >= 0 && Index + Count <= Num());
+		const int32 NumAfterHole = Num() - (Index + Count);
+		const int32 NumToMove = Count < NumAfterHole ? Count : NumAfterHole;
+		for (int32 Moved = 0; Moved < NumToMove; ++Moved)
+		{
+			Data[static_cast<SIZE_T>(Index + Moved)] = MoveTemp(Data[static_cast<SIZE_T>(Num() - NumToMove + Moved)]);
+		}
+		Data.erase(Data.end() - Count, Data.end());
+	}
 	template <typename PredicateType>
 	int32 RemoveAll(const PredicateType& Predicate)
 	{
 		const int32 OldNum = Num();
-		Data.erase(std::remove_if(Data.begin(), Data.end(), [&Predicate](const InElementType& Element) { return Predicate(Element); }), Data.end());
+		Data.erase(std::remove_if(Data.begin(), Data.end(), [&Predicate](const InElementType& Element)
+					   { return Predicate(Element); }),
+			Data.end());
 		return OldNum - Num();
 	}
 	int32 Remove(const InElementType& Item)
 	{
-		return RemoveAll([&Item](const InElementType& Element) { return Element == Item; });
+		return RemoveAll([&Item](const InElementType& Element)
+			{ return Element == Item; });
 	}
 	int32 RemoveSingle(const InElementType& Item)
 	{

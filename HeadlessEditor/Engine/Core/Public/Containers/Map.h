@@ -4,9 +4,13 @@
 #include "Containers/Array.h"
 #include "Templates/Tuple.h"
 
+#include <optional>
+#include <vector>
+
 /**
- * A map keyed with the engine's equality (so FString and FName keys ignore case). The headless
- * editor keeps insertion order, which is what the engine's map shows while nothing is removed.
+ * A map keyed with the engine's equality (so FString and FName keys ignore case). Elements live in
+ * slots as in the engine's sparse array: they iterate in slot order, a removal leaves a hole, and
+ * the next addition fills the most recently freed hole.
  */
 template <typename InKeyType, typename InValueType>
 class TMap
@@ -16,17 +20,66 @@ public:
 	typedef InValueType ValueType;
 	typedef TPair<InKeyType, InValueType> ElementType;
 
-	int32 Num() const { return Pairs.Num(); }
-	bool IsEmpty() const { return Pairs.IsEmpty(); }
+private:
+	using FSlots = std::vector<std::optional<ElementType>>;
 
+	template <typename SlotIteratorType, typename PairType>
+	class TSlotIterator
+	{
+	public:
+		TSlotIterator(SlotIteratorType InCurrent, SlotIteratorType InEnd)
+			: Current(InCurrent)
+			, End(InEnd)
+		{
+			SkipHoles();
+		}
+		PairType& operator*() const { return **Current; }
+		PairType* operator->() const { return &**Current; }
+		TSlotIterator& operator++()
+		{
+			++Current;
+			SkipHoles();
+			return *this;
+		}
+		bool operator==(const TSlotIterator& Other) const { return Current == Other.Current; }
+		bool operator!=(const TSlotIterator& Other) const { return Current != Other.Current; }
+
+	private:
+		void SkipHoles()
+		{
+			while (Current != End && !Current->has_value())
+			{
+				++Current;
+			}
+		}
+		SlotIteratorType Current;
+		SlotIteratorType End;
+	};
+
+public:
+	int32 Num() const { return static_cast<int32>(Slots.size() - FreeSlots.size()); }
+	bool IsEmpty() const { return Num() == 0; }
+	/** An existing equal key is replaced together with its value, keeping its place. */
 	InValueType& Add(const InKeyType& InKey, const InValueType& InValue)
 	{
-		if (InValueType* Existing = Find(InKey))
+		if (ElementType* Existing = FindPair(InKey))
 		{
-			*Existing = InValue;
-			return *Existing;
+			Existing->Key = InKey;
+			Existing->Value = InValue;
+			return Existing->Value;
 		}
-		return Pairs[Pairs.Emplace(InKey, InValue)].Value;
+		std::optional<ElementType>* Slot = nullptr;
+		if (FreeSlots.empty())
+		{
+			Slot = &Slots.emplace_back();
+		}
+		else
+		{
+			Slot = &Slots[FreeSlots.back()];
+			FreeSlots.pop_back();
+		}
+		Slot->emplace(InKey, InValue);
+		return (*Slot)->Value;
 	}
 	InValueType& Add(const InKeyType& InKey) { return Add(InKey, InValueType()); }
 	InValueType& FindOrAdd(const InKeyType& InKey)
@@ -39,12 +92,12 @@ public:
 	}
 	InValueType* Find(const InKeyType& InKey)
 	{
-		ElementType* Pair = Pairs.FindByPredicate([&InKey](const ElementType& Element) { return Element.Key == InKey; });
+		ElementType* Pair = FindPair(InKey);
 		return Pair ? &Pair->Value : nullptr;
 	}
 	const InValueType* Find(const InKeyType& InKey) const
 	{
-		const ElementType* Pair = Pairs.FindByPredicate([&InKey](const ElementType& Element) { return Element.Key == InKey; });
+		const ElementType* Pair = const_cast<TMap*>(this)->FindPair(InKey);
 		return Pair ? &Pair->Value : nullptr;
 	}
 	InValueType& FindChecked(const InKeyType& InKey)
@@ -62,27 +115,53 @@ public:
 	bool Contains(const InKeyType& InKey) const { return Find(InKey) != nullptr; }
 	int32 Remove(const InKeyType& InKey)
 	{
-		return Pairs.RemoveAll([&InKey](const ElementType& Element) { return Element.Key == InKey; });
+		for (SIZE_T Index = 0; Index < Slots.size(); ++Index)
+		{
+			if (Slots[Index].has_value() && Slots[Index]->Key == InKey)
+			{
+				Slots[Index].reset();
+				FreeSlots.push_back(Index);
+				return 1;
+			}
+		}
+		return 0;
 	}
-	void Empty() { Pairs.Empty(); }
-	void Reset() { Pairs.Reset(); }
-
+	void Empty()
+	{
+		Slots.clear();
+		FreeSlots.clear();
+	}
+	void Reset() { Empty(); }
 	template <typename Allocator>
 	int32 GetKeys(TArray<InKeyType, Allocator>& OutKeys) const
 	{
 		OutKeys.Reset();
-		for (const ElementType& Pair : Pairs)
+		for (const ElementType& Pair : *this)
 		{
 			OutKeys.Add(Pair.Key);
 		}
 		return OutKeys.Num();
 	}
 
-	auto begin() { return Pairs.begin(); }
-	auto end() { return Pairs.end(); }
-	auto begin() const { return Pairs.begin(); }
-	auto end() const { return Pairs.end(); }
+	auto begin() { return TSlotIterator<typename FSlots::iterator, ElementType>(Slots.begin(), Slots.end()); }
+	auto end() { return TSlotIterator<typename FSlots::iterator, ElementType>(Slots.end(), Slots.end()); }
+	auto begin() const { return TSlotIterator<typename FSlots::const_iterator, const ElementType>(Slots.begin(), Slots.end()); }
+	auto end() const { return TSlotIterator<typename FSlots::const_iterator, const ElementType>(Slots.end(), Slots.end()); }
 
 private:
-	TArray<ElementType> Pairs;
+	ElementType* FindPair(const InKeyType& InKey)
+	{
+		for (std::optional<ElementType>& Slot : Slots)
+		{
+			if (Slot.has_value() && Slot->Key == InKey)
+			{
+				return &*Slot;
+			}
+		}
+		return nullptr;
+	}
+
+	FSlots Slots;
+	/** Freed slot indices; the last one freed is reused first. */
+	std::vector<SIZE_T> FreeSlots;
 };

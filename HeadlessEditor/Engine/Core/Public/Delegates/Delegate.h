@@ -1,10 +1,12 @@
 #pragma once
 
 #include "CoreTypes.h"
+#include "Containers/Array.h"
 #include "Delegates/IDelegateInstance.h"
 #include "Misc/AssertionMacros.h"
 #include "Templates/SharedPointer.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <tuple>
@@ -65,17 +67,19 @@ public:
 	template <typename... VarTypes>
 	static TDelegate CreateStatic(InRetValType (*InFunc)(ParamTypes..., std::decay_t<VarTypes>...), VarTypes&&... Vars)
 	{
-		return Make(nullptr, nullptr, [InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType {
-			return std::apply([&](auto&... Bound) -> InRetValType { return InFunc(std::forward<ParamTypes>(Params)..., Bound...); }, Payload);
-		});
+		return Make(nullptr, nullptr, [InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType
+			{ return std::apply([&](auto&... Bound) -> InRetValType
+				  { return InFunc(std::forward<ParamTypes>(Params)..., Bound...); },
+				  Payload); });
 	}
 
 	template <typename FunctorType, typename... VarTypes>
 	static TDelegate CreateLambda(FunctorType&& InFunctor, VarTypes&&... Vars)
 	{
-		return Make(nullptr, nullptr, [Functor = std::forward<FunctorType>(InFunctor), Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType {
-			return std::apply([&](auto&... Bound) -> InRetValType { return Functor(std::forward<ParamTypes>(Params)..., Bound...); }, Payload);
-		});
+		return Make(nullptr, nullptr, [Functor = std::forward<FunctorType>(InFunctor), Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType
+			{ return std::apply([&](auto&... Bound) -> InRetValType
+				  { return Functor(std::forward<ParamTypes>(Params)..., Bound...); },
+				  Payload); });
 	}
 
 	template <typename UserClass, typename... VarTypes>
@@ -201,9 +205,10 @@ private:
 	template <typename UserClass, typename FuncPtr, typename... VarTypes>
 	static TDelegate MakeMember(const void* UserObject, std::function<bool()> IsAlive, UserClass* Target, FuncPtr InFunc, VarTypes&&... Vars)
 	{
-		return Make(UserObject, std::move(IsAlive), [Target, InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType {
-			return std::apply([&](auto&... Bound) -> InRetValType { return (Target->*InFunc)(std::forward<ParamTypes>(Params)..., Bound...); }, Payload);
-		});
+		return Make(UserObject, std::move(IsAlive), [Target, InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType
+			{ return std::apply([&](auto&... Bound) -> InRetValType
+				  { return (Target->*InFunc)(std::forward<ParamTypes>(Params)..., Bound...); },
+				  Payload); });
 	}
 
 	template <typename UserClass, ESPMode Mode, typename FuncPtr, typename... VarTypes>
@@ -211,12 +216,18 @@ private:
 	{
 		TWeakPtr<UserClass, Mode> Weak(ObjectRef);
 		UserClass* Raw = &ObjectRef.Get();
-		return Make(Raw, [Weak]() { return Weak.IsValid(); }, [Weak, InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType {
-			const TSharedPtr<UserClass, Mode> Pinned = Weak.Pin();
-			checkf(Pinned.IsValid(), TEXT("Executing a delegate whose shared object is gone"));
-			UserClass* Target = Pinned.Get();
-			return std::apply([&](auto&... Bound) -> InRetValType { return (Target->*InFunc)(std::forward<ParamTypes>(Params)..., Bound...); }, Payload);
-		});
+		return Make(
+			Raw, [Weak]()
+			{ return Weak.IsValid(); },
+			[Weak, InFunc, Payload = std::make_tuple(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> InRetValType
+			{
+				const TSharedPtr<UserClass, Mode> Pinned = Weak.Pin();
+				checkf(Pinned.IsValid(), TEXT("Executing a delegate whose shared object is gone"));
+				UserClass* Target = Pinned.Get();
+				return std::apply([&](auto&... Bound) -> InRetValType
+					{ return (Target->*InFunc)(std::forward<ParamTypes>(Params)..., Bound...); },
+					Payload);
+			});
 	}
 
 	template <typename, typename>
@@ -225,7 +236,12 @@ private:
 	std::shared_ptr<FInstance> Instance;
 };
 
-/** A delegate with any number of bindings, called in the order they were added. */
+/**
+ * A delegate with any number of bindings, kept as the engine keeps its invocation list: Broadcast
+ * calls the bindings from the last added to the first; a binding removed while a broadcast runs is
+ * unbound in place and skipped; removed and dead bindings are compacted by moving the last binding
+ * into the hole, so the order changes after a removal.
+ */
 template <typename... ParamTypes, typename UserPolicy>
 class TMulticastDelegate<void(ParamTypes...), UserPolicy>
 {
@@ -238,7 +254,8 @@ public:
 		{
 			return FDelegateHandle();
 		}
-		InvocationList.push_back(InNewDelegate);
+		CompactInvocationList(true);
+		InvocationList.Add(InNewDelegate);
 		return InNewDelegate.GetHandle();
 	}
 	template <typename... ArgTypes>
@@ -266,14 +283,14 @@ public:
 	{
 		return Add(FDelegate::CreateUObject(std::forward<ArgTypes>(Args)...));
 	}
-
 	bool Remove(FDelegateHandle Handle)
 	{
-		for (auto It = InvocationList.begin(); It != InvocationList.end(); ++It)
+		for (FDelegate& Delegate : InvocationList)
 		{
-			if (It->GetHandle() == Handle)
+			if (Delegate.Instance && Delegate.GetHandle() == Handle)
 			{
-				InvocationList.erase(It);
+				Delegate.Unbind();
+				CompactInvocationList(false);
 				return true;
 			}
 		}
@@ -281,17 +298,53 @@ public:
 	}
 	int32 RemoveAll(const void* InUserObject)
 	{
-		const SIZE_T OldSize = InvocationList.size();
-		InvocationList.erase(std::remove_if(InvocationList.begin(), InvocationList.end(), [InUserObject](const FDelegate& Delegate) { return Delegate.IsBoundToObject(InUserObject); }), InvocationList.end());
-		return static_cast<int32>(OldSize - InvocationList.size());
+		int32 Result = 0;
+		if (LockCount > 0)
+		{
+			for (FDelegate& Delegate : InvocationList)
+			{
+				if (Delegate.IsBoundToObject(InUserObject))
+				{
+					Delegate.Unbind();
+					++Result;
+				}
+			}
+			if (Result > 0)
+			{
+				CompactionThreshold = 0;
+			}
+			return Result;
+		}
+		for (int32 Index = 0; Index < InvocationList.Num();)
+		{
+			const FDelegate& Delegate = InvocationList[Index];
+			if (!Delegate.Instance || Delegate.IsBoundToObject(InUserObject) || IsCompactable(Delegate))
+			{
+				InvocationList.RemoveAtSwap(Index);
+				++Result;
+			}
+			else
+			{
+				++Index;
+			}
+		}
+		CompactionThreshold = std::max(2, 2 * InvocationList.Num());
+		return Result;
 	}
-	void Clear() { InvocationList.clear(); }
-
+	void Clear()
+	{
+		for (FDelegate& Delegate : InvocationList)
+		{
+			Delegate.Unbind();
+		}
+		CompactInvocationList(false);
+	}
+	/** True while any binding is held, even one whose object is gone and not yet compacted away. */
 	bool IsBound() const
 	{
 		for (const FDelegate& Delegate : InvocationList)
 		{
-			if (Delegate.IsBound())
+			if (Delegate.Instance)
 			{
 				return true;
 			}
@@ -309,19 +362,59 @@ public:
 		}
 		return false;
 	}
-
-	/** Calls every live binding; bindings added or removed during the call do not disturb it. */
+	/** Bindings added by a callee are not called by the broadcast that is running. */
 	void Broadcast(ParamTypes... Params) const
 	{
-		const std::vector<FDelegate> Snapshot = InvocationList;
-		for (const FDelegate& Delegate : Snapshot)
+		TMulticastDelegate& Self = const_cast<TMulticastDelegate&>(*this);
+		bool bNeedsCompaction = false;
+		++Self.LockCount;
+		for (int32 Index = InvocationList.Num() - 1; Index >= 0; --Index)
 		{
-			Delegate.ExecuteIfBound(Params...);
+			const FDelegate Delegate = InvocationList[Index];
+			if (!Delegate.ExecuteIfBound(Params...))
+			{
+				bNeedsCompaction = true;
+			}
+		}
+		--Self.LockCount;
+		if (bNeedsCompaction)
+		{
+			Self.CompactInvocationList(false);
 		}
 	}
 
 private:
-	std::vector<FDelegate> InvocationList;
+	static bool IsCompactable(const FDelegate& Delegate) { return Delegate.Instance && Delegate.Instance->IsAlive && !Delegate.Instance->IsAlive(); }
+
+	void CompactInvocationList(bool bCheckThreshold)
+	{
+		if (LockCount > 0)
+		{
+			return;
+		}
+		// Additions compact only now and then; the threshold decays with each one.
+		if (bCheckThreshold && --CompactionThreshold > InvocationList.Num())
+		{
+			return;
+		}
+		for (int32 Index = 0; Index < InvocationList.Num();)
+		{
+			const FDelegate& Delegate = InvocationList[Index];
+			if (!Delegate.Instance || IsCompactable(Delegate))
+			{
+				InvocationList.RemoveAtSwap(Index);
+			}
+			else
+			{
+				++Index;
+			}
+		}
+		CompactionThreshold = std::max(2, 2 * InvocationList.Num());
+	}
+
+	TArray<FDelegate> InvocationList;
+	int32 LockCount = 0;
+	int32 CompactionThreshold = 2;
 };
 
 #include "Delegates/DelegateCombinations.h"

@@ -59,6 +59,7 @@ public:
 	const FString& ToString() const;
 	bool IsEmpty() const;
 	bool IsEmptyOrWhitespace() const;
+	static bool IsWhitespace(const TCHAR Char);
 	bool IsCultureInvariant() const;
 	bool IsFromStringTable() const { return false; }
 	FText ToUpper() const;

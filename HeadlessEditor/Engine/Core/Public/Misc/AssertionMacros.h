@@ -31,11 +31,12 @@ struct CORE_API FDebug
 #define checkSlow(expr) check(expr)
 #define verify(expr) check(expr)
 
-// An ensure reports once per call site and lets execution carry on; it yields the condition.
-#define UE_ENSURE_IMPL(InExpression, Format, ...) \
+// An ensure reports once per call site (ensureAlways every time) and lets execution carry on; it
+// yields the condition.
+#define UE_ENSURE_IMPL(bAlways, InExpression, Format, ...) \
 	(!!(InExpression) || ([&]() -> bool { \
 		static bool bExecuted = false; \
-		if (!bExecuted) \
+		if (bAlways || !bExecuted) \
 		{ \
 			bExecuted = true; \
 			FDebug::EnsureFailed(#InExpression, __FILE__, __LINE__, Format, ##__VA_ARGS__); \
@@ -43,6 +44,7 @@ struct CORE_API FDebug
 		return false; \
 	}()))
 
-#define ensure(InExpression) UE_ENSURE_IMPL(InExpression, TEXT(""))
-#define ensureMsgf(InExpression, InFormat, ...) UE_ENSURE_IMPL(InExpression, InFormat, ##__VA_ARGS__)
-#define ensureAlways(InExpression) ensure(InExpression)
+#define ensure(InExpression) UE_ENSURE_IMPL(false, InExpression, TEXT(""))
+#define ensureMsgf(InExpression, InFormat, ...) UE_ENSURE_IMPL(false, InExpression, InFormat, ##__VA_ARGS__)
+#define ensureAlways(InExpression) UE_ENSURE_IMPL(true, InExpression, TEXT(""))
+#define ensureAlwaysMsgf(InExpression, InFormat, ...) UE_ENSURE_IMPL(true, InExpression, InFormat, ##__VA_ARGS__)

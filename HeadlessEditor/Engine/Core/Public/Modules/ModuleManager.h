@@ -42,9 +42,9 @@ public:
 	template <typename TModuleInterface>
 	static TModuleInterface& GetModuleChecked(const FName ModuleName)
 	{
-		IModuleInterface* Module = Get().GetModule(ModuleName);
-		checkf(Module, TEXT("Module '%s' is not loaded"), *ModuleName.ToString());
-		return static_cast<TModuleInterface&>(*Module);
+		FModuleManager& ModuleManager = Get();
+		checkf(ModuleManager.IsModuleLoaded(ModuleName), TEXT("Tried to get module interface for unloaded module: '%s'"), *ModuleName.ToString());
+		return static_cast<TModuleInterface&>(*ModuleManager.GetModule(ModuleName));
 	}
 	template <typename TModuleInterface>
 	static TModuleInterface* GetModulePtr(const FName ModuleName)
