@@ -6,6 +6,7 @@
 #include "Framework/Docking/TabManager.h"
 #include "Headless/HeadlessPlugins.h"
 #include "HeadlessEditorEngine.h"
+#include "HeadlessLevelViewports.h"
 #include "HeadlessSlateRenderer.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
@@ -51,6 +52,7 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 	}
 
 	HeadlessEditorEngine::Create();
+	LevelViewports = MakeUnique<FHeadlessLevelViewports>(Options.LevelViewports, Options.ActiveLevelViewport);
 	for (const TCHAR* Module : EngineStartupModules)
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
@@ -73,6 +75,7 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 FHeadlessEditorSession::~FHeadlessEditorSession()
 {
 	FModuleManager::Get().UnloadModulesAtShutdown();
+	LevelViewports.reset();
 	HeadlessEditorEngine::Destroy();
 	FGlobalTabmanager::Get()->ResetForHeadlessSession();
 	FSlateApplication::Shutdown();

@@ -1,0 +1,37 @@
+#include "AssetRegistry/AssetData.h"
+
+#include "Misc/PackageName.h"
+#include "UObject/Class.h"
+#include "UObject/Package.h"
+
+FAssetData::FAssetData(const UObject* InAsset, ECreationFlags InCreationFlags)
+{
+	if (InAsset && InAsset->IsAsset())
+	{
+		const FString Package = InAsset->GetOutermost()->GetName();
+		PackageName = FName(*Package);
+		PackagePath = FName(*FPackageName::GetLongPackagePath(Package));
+		AssetName = InAsset->GetFName();
+		AssetClassPath = FTopLevelAssetPath(InAsset->GetClass()->GetOutermost()->GetFName(), InAsset->GetClass()->GetFName());
+	}
+}
+
+FAssetData::FAssetData(const UObject* InAsset, bool bAllowBlueprintClass)
+	: FAssetData(InAsset, bAllowBlueprintClass ? ECreationFlags::AllowBlueprintClass : ECreationFlags::None)
+{
+}
+
+bool FAssetData::IsAssetLoaded() const
+{
+	return GetAsset() != nullptr;
+}
+
+UObject* FAssetData::GetAsset() const
+{
+	if (!IsValid())
+	{
+		return nullptr;
+	}
+	UObject* Package = StaticFindObjectFast(UPackage::StaticClass(), nullptr, PackageName);
+	return Package ? StaticFindObjectFast(nullptr, Package, AssetName) : nullptr;
+}
