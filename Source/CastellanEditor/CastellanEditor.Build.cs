@@ -12,13 +12,24 @@ public class CastellanEditor : ModuleRules
 			new string[]
 			{
 				"Core",
+				"CoreUObject",
+				"Engine",
+				"InputCore",
 				"Slate",
 				"SlateCore",
 				"UnrealEd",
 				"ToolMenus",
 				"Projects",
 				"PropertyEditor",
+				"AssetTools",
+				"AssetRegistry",
 				"Castellan",
+				"KyroCamera",
+				"Kyro360Camera",
+				"KyroSpout",
+				"KyroNDI",
+				"KyroMedia",
+				"KyroVirtualWebcam",
 			}
 		);
 	}
