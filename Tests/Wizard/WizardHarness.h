@@ -1,8 +1,12 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Editor/Transactor.h"
+#include "Engine/World.h"
+#include "GameFramework/Actor.h"
 #include "HeadlessEditorSession.h"
 #include "InputCoreTypes.h"
+#include "LevelDriver.h"
 #include "Layout/Geometry.h"
 #include "SLivestreamWizard.h"
 #include "WidgetDriver.h"

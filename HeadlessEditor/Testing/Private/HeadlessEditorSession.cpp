@@ -17,7 +17,7 @@ namespace
 	const TCHAR* EditorModuleName = TEXT("CastellanEditor");
 
 	// Engine modules the editor has loaded before any plugin module starts.
-	const TCHAR* EngineStartupModules[] = {TEXT("Projects"), TEXT("ToolMenus")};
+	const TCHAR* EngineStartupModules[] = {TEXT("Projects"), TEXT("ToolMenus"), TEXT("AssetRegistry"), TEXT("AssetTools")};
 
 	/** The plugin's runtime modules in descriptor order; each loads only if its stand-in exists. */
 	TArray<FName> GetRuntimeModules(const FHeadlessEditorOptions& Options)
