@@ -9,6 +9,7 @@ public class CastellanEditor : ModuleRules
 		PCHUsage = ModuleRules.PCHUsageMode.UseExplicitOrSharedPCHs;
 
 		// The factory's public header exposes UFactory and UKyroNDISoundWave.
+		// The factory's public header exposes UFactory and UKyroNDISoundWave.
 		PublicDependencyModuleNames.AddRange(
 			new string[]
 			{
@@ -23,12 +24,15 @@ public class CastellanEditor : ModuleRules
 			new string[]
 			{
 				"Engine",
+				"InputCore",
 				"Slate",
 				"SlateCore",
 				"ToolMenus",
 				"Projects",
 				"PropertyEditor",
 				"PlacementMode",
+				"AssetTools",
+				"AssetRegistry",
 				"Castellan",
 				"KyroCamera",
 				"Kyro360Camera",

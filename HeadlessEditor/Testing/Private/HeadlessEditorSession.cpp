@@ -8,6 +8,7 @@
 #include "Headless/HeadlessNotifications.h"
 #include "Headless/HeadlessPlugins.h"
 #include "HeadlessEditorEngine.h"
+#include "HeadlessLevelViewports.h"
 #include "HeadlessSlateRenderer.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
@@ -18,7 +19,7 @@ namespace
 	const TCHAR* EditorModuleName = TEXT("CastellanEditor");
 
 	// Engine modules the editor has loaded before any plugin module starts.
-	const TCHAR* EngineStartupModules[] = {TEXT("Projects"), TEXT("ToolMenus")};
+	const TCHAR* EngineStartupModules[] = {TEXT("Projects"), TEXT("ToolMenus"), TEXT("AssetRegistry"), TEXT("AssetTools")};
 
 	/** The plugin's runtime modules in descriptor order; each loads only if its stand-in exists. */
 	TArray<FName> GetRuntimeModules(const FHeadlessEditorOptions& Options)
@@ -53,6 +54,7 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 	}
 
 	HeadlessEditorEngine::Create();
+	LevelViewports = MakeUnique<FHeadlessLevelViewports>(Options.LevelViewports, Options.ActiveLevelViewport);
 	for (const TCHAR* Module : EngineStartupModules)
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
@@ -81,6 +83,7 @@ FHeadlessEditorSession::~FHeadlessEditorSession()
 	FModuleManager::Get().UnloadModulesAtShutdown();
 	UE::Headless::ResetNotifications();
 	UE::Headless::ResetDesktop();
+	LevelViewports.reset();
 	HeadlessEditorEngine::Destroy();
 	FGlobalTabmanager::Get()->ResetForHeadlessSession();
 	FSlateApplication::Shutdown();

@@ -1,6 +1,17 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Templates/UniquePtr.h"
+
+class FHeadlessLevelViewports;
+
+/** A viewport of the level editor: where its camera is. */
+struct FHeadlessLevelViewportOptions
+{
+	/** The level editor's default perspective camera. */
+	FVector ViewLocation = FVector(0.0, 1024.0, 512.0);
+	FRotator ViewRotation = FRotator(-15.0, -90.0, 0.0);
+};
 
 /** How a headless editor session starts: which optional modules exist, the plugin's descriptor and so on. */
 struct FHeadlessEditorOptions
@@ -19,6 +30,10 @@ struct FHeadlessEditorOptions
 	bool bPluginInstalled = true;
 	FString PluginVersionName = TEXT("1.0");
 	FString PluginEngineVersion = TEXT("5.1.0");
+	/** The level editor's viewports, in creation order; by default one perspective viewport. */
+	TArray<FHeadlessLevelViewportOptions> LevelViewports{FHeadlessLevelViewportOptions()};
+	/** Which of LevelViewports is the active one; INDEX_NONE for none. */
+	int32 ActiveLevelViewport = 0;
 };
 
 /**
@@ -52,4 +67,5 @@ public:
 
 private:
 	FHeadlessEditorOptions Options;
+	TUniquePtr<FHeadlessLevelViewports> LevelViewports;
 };

@@ -1,10 +1,36 @@
 #include "SLivestreamWizard.h"
 
+#include "AssetRegistry/AssetRegistryModule.h"
+#include "AssetRegistry/IAssetRegistry.h"
+#include "AssetToolsModule.h"
 #include "CastellanEditorStyle.h"
 #include "Editor.h"
+#include "Editor/UnrealEdEngine.h"
+#include "Engine/Level.h"
+#include "Engine/TextureRenderTarget2D.h"
+#include "Engine/World.h"
+#include "GameFramework/Actor.h"
+#include "IAssetTools.h"
+#include "Input/Events.h"
+#include "InputCoreTypes.h"
+#include "Kismet/GameplayStatics.h"
+#include "Kyro360CamCapture.h"
+#include "Kyro360CaptureComponent.h"
+#include "KyroCaptureComponent.h"
+#include "KyroCineCamCapture.h"
+#include "KyroMediaOutput.h"
+#include "KyroNDISenderManager.h"
+#include "KyroSpoutSenderManager.h"
 #include "KyroTelemetry.h"
+#include "KyroViewportCapture.h"
+#include "KyroVirtualWebcamOutput.h"
+#include "LevelEditorViewport.h"
+#include "Modules/ModuleManager.h"
+#include "ScopedTransaction.h"
+#include "Selection.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/ISlateStyle.h"
+#include "UnrealEdGlobals.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
@@ -23,6 +49,65 @@ namespace LivestreamWizard
 	const FLinearColor LabelColour(0.5f, 0.5f, 0.5f, 1.0f);
 	const FMargin SectionPadding(0.0f, 8.0f, 0.0f, 0.0f);
 	const FMargin ItemPadding(0.0f, 2.0f);
+	const TCHAR* const AssetFolder = TEXT("/Game/LivestreamWizard/");
+
+	/** Outputs go to the world of the first level viewport client (the camera goes to the active one). */
+	UWorld* GetOutputWorld()
+	{
+		return GEditor->GetLevelViewportClients()[0]->GetWorld();
+	}
+
+	/** The first sender manager of the level after Modify, or a new one when the level has none. */
+	template <typename ManagerType>
+	ManagerType* FindOrCreateSenderManager()
+	{
+		UWorld* World = GetOutputWorld();
+		TArray<AActor*> Found;
+		UGameplayStatics::GetAllActorsOfClass(World, ManagerType::StaticClass(), Found);
+		if (Found.Num() == 0)
+		{
+			ManagerType* Manager = Cast<ManagerType>(World->SpawnActor(ManagerType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+			ULevel::LevelDirtiedEvent.Broadcast();
+			GEditor->RedrawAllViewports(true);
+			return Manager;
+		}
+		Found[0]->Modify(true);
+		return Cast<ManagerType>(Found[0]);
+	}
+
+	/** A sender entry of the runtime's Spout or NDI manager, enabled, named after the render target. */
+	template <typename EntryType>
+	EntryType MakeSenderEntry(UTextureRenderTarget2D* RenderTarget, const FString& Name)
+	{
+		// Runtime members: FKyroSpoutSenderInterface / FKyroNDISenderInterface::bEnabled, SenderName, StandaloneSenderName, RenderTarget.
+		EntryType Entry;
+		Entry.bEnabled = true;
+		Entry.SenderName = Name;
+		Entry.StandaloneSenderName = Name + TEXT("_Standalone");
+		Entry.RenderTarget = RenderTarget;
+		return Entry;
+	}
+
+	template <typename ManagerType, typename EntryType>
+	void AddSenderEntry(ManagerType* Manager, const EntryType& Entry)
+	{
+		// Runtime member: AKyroSpoutSenderManager / AKyroNDISenderManager::Senders.
+		Manager->Senders.Add(Entry);
+		Manager->GetWorld()->MarkPackageDirty();
+		ULevel::LevelDirtiedEvent.Broadcast();
+	}
+
+	/** Spawns a media output or virtual webcam actor at the origin, rendering RenderTarget. */
+	template <typename OutputType>
+	void CreateOutputActor(UTextureRenderTarget2D* RenderTarget)
+	{
+		OutputType* Output = Cast<OutputType>(GetOutputWorld()->SpawnActor(OutputType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+		// Runtime member: AKyroMediaOutput / AKyroVirtualWebcamOutput::RenderTarget.
+		Output->RenderTarget = RenderTarget;
+		GEditor->RedrawAllViewports(true);
+		Output->GetWorld()->MarkPackageDirty();
+		ULevel::LevelDirtiedEvent.Broadcast();
+	}
 }
 
 SLivestreamWizard::SLivestreamWizard()
@@ -284,8 +369,230 @@ bool SLivestreamWizard::GetCreateButtonEnabled() const
 	return !GEditor->IsPlayingSessionInEditor();
 }
 
+bool SLivestreamWizard::CanCreateSetup() const
+{
+	bool bOutputsValid = true;
+	bool bNameValid = true;
+
+	if (!SpoutCheckBox->IsChecked() && !NDICheckBox->IsChecked() && !MediaOutputCheckBox->IsChecked() && !VirtualWebcamCheckBox->IsChecked())
+	{
+		OutputTypeWarning->SetText(LOCTEXT("OutputSelection_Warning", "! Select at least one output type."));
+		bOutputsValid = false;
+	}
+	else
+	{
+		OutputTypeWarning->SetText(LOCTEXT("OutputSelection_Warning", ""));
+	}
+
+	const FText StreamName = StreamNameTextBox->GetText();
+	if (StreamName.IsEmptyOrWhitespace())
+	{
+		StreamNameWarning->SetText(LOCTEXT("StreamName_Warning", "! LivestreamWizard Name cannot be empty."));
+		bNameValid = false;
+	}
+	else
+	{
+		UWorld* World = LivestreamWizard::GetOutputWorld();
+		const FString Name = StreamName.ToString();
+		// The search runs twice, both times over the Spout managers: names held only by NDI senders never block a name.
+		for (int32 Search = 0; Search < 2; ++Search)
+		{
+			TArray<AActor*> Found;
+			UGameplayStatics::GetAllActorsOfClass(World, AKyroSpoutSenderManager::StaticClass(), Found);
+			for (AActor* Actor : Found)
+			{
+				const AKyroSpoutSenderManager* Manager = Cast<AKyroSpoutSenderManager>(Actor);
+				// Runtime members: AKyroSpoutSenderManager::Senders, FKyroSpoutSenderInterface::SenderName and StandaloneSenderName.
+				for (const FKyroSpoutSenderInterface& Sender : Manager->Senders)
+				{
+					if (Sender.SenderName == Name || Sender.StandaloneSenderName == Name)
+					{
+						StreamNameWarning->SetText(LOCTEXT("StreamName_Warning", "! Livestream name already defined, please use a differnt name."));
+						bNameValid = false;
+					}
+				}
+			}
+		}
+	}
+
+	if (bNameValid)
+	{
+		StreamNameWarning->SetText(LOCTEXT("StreamName_Warning", ""));
+	}
+	return bOutputsValid && bNameValid;
+}
+
+bool SLivestreamWizard::CreateSetup() const
+{
+	const FScopedTransaction Transaction(FText::FromString(TEXT("Create Setup")));
+
+	FString AssetName;
+	AActor* Actor = CreateCaptureActor(AssetName);
+	if (!Actor)
+	{
+		return false;
+	}
+	UTextureRenderTarget2D* RenderTarget = GetRenderTarget(Actor);
+
+	if (SpoutCheckBox->IsChecked())
+	{
+		CreateSpoutSender(RenderTarget, AssetName);
+	}
+	if (NDICheckBox->IsChecked())
+	{
+		CreateNDISender(RenderTarget, AssetName);
+	}
+	if (MediaOutputCheckBox->IsChecked())
+	{
+		CreateMediaOutput(RenderTarget);
+	}
+	if (VirtualWebcamCheckBox->IsChecked())
+	{
+		CreateVirtualCam(RenderTarget);
+	}
+	return true;
+}
+
+AActor* SLivestreamWizard::CreateCaptureActor(FString& OutAssetName) const
+{
+	FLevelEditorViewportClient* Client = nullptr;
+	for (FLevelEditorViewportClient* Candidate : GEditor->GetLevelViewportClients())
+	{
+		if (Candidate->Viewport == GEditor->GetActiveViewport())
+		{
+			Client = Candidate;
+			break;
+		}
+	}
+	if (!Client)
+	{
+		return nullptr;
+	}
+
+	IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>(TEXT("AssetTools")).Get();
+	FString PackageName;
+	AssetTools.CreateUniqueAssetName(FString(LivestreamWizard::AssetFolder) + StreamNameTextBox->GetText().ToString(), FString(), PackageName, OutAssetName);
+	UTextureRenderTarget2D* RenderTarget = Cast<UTextureRenderTarget2D>(AssetTools.CreateAsset(OutAssetName, LivestreamWizard::AssetFolder, UTextureRenderTarget2D::StaticClass(), nullptr));
+	if (!RenderTarget)
+	{
+		return nullptr;
+	}
+	RenderTarget->MarkPackageDirty();
+	FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().AssetCreated(RenderTarget);
+
+	UWorld* World = Client->GetWorld();
+	AActor* Actor = nullptr;
+	if (IsCaptureTypeSelected(CineCamOption))
+	{
+		AKyroCineCamCapture* CineCam = Cast<AKyroCineCamCapture>(World->SpawnActor(AKyroCineCamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+		// Runtime member: AKyroCineCamCapture::CaptureComponent (a scene capture 2D).
+		CineCam->CaptureComponent->TextureTarget = RenderTarget;
+		Actor = CineCam;
+	}
+	else if (IsCaptureTypeSelected(ThreeSixtyCamOption))
+	{
+		AKyro360CamCapture* ThreeSixtyCam = Cast<AKyro360CamCapture>(World->SpawnActor(AKyro360CamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+		// Runtime member: AKyro360CamCapture::CaptureComponent (a UKyro360CaptureComponent).
+		ThreeSixtyCam->CaptureComponent->TextureTarget = RenderTarget;
+		Actor = ThreeSixtyCam;
+	}
+	else
+	{
+		AKyroViewportCapture* ViewportCapture = Cast<AKyroViewportCapture>(World->SpawnActor(AKyroViewportCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+		// Runtime member: AKyroViewportCapture::RenderTarget.
+		ViewportCapture->RenderTarget = RenderTarget;
+		Actor = ViewportCapture;
+	}
+
+	Actor->SetActorLocation(Client->GetViewLocation());
+	Actor->SetActorRotation(Client->GetViewRotation());
+
+	GUnrealEd->SelectNone(true, true, true);
+	GEditor->GetSelectedActors()->DeselectAll();
+	GEditor->GetSelectedObjects()->DeselectAll();
+	GEditor->SelectActor(Actor, true, false, false, false);
+	TArray<AActor*> SelectedActors;
+	SelectedActors.Add(Actor);
+	GUnrealEd->UpdateFloatingPropertyWindowsFromActorList(SelectedActors, false);
+	GEditor->RedrawAllViewports(true);
+	return Actor;
+}
+
+UTextureRenderTarget2D* SLivestreamWizard::GetRenderTarget(AActor* CaptureActor) const
+{
+	// Runtime members as in CreateCaptureActor.
+	if (IsCaptureTypeSelected(CineCamOption))
+	{
+		return CastChecked<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
+	}
+	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
+	{
+		return CastChecked<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
+	}
+	return CastChecked<AKyroViewportCapture>(CaptureActor)->RenderTarget.Get();
+}
+
+void SLivestreamWizard::CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const
+{
+	AKyroSpoutSenderManager* Manager = FindOrCreateSpoutSenderManager();
+	LivestreamWizard::AddSenderEntry(Manager, LivestreamWizard::MakeSenderEntry<FKyroSpoutSenderInterface>(RenderTarget, Name));
+}
+
+void SLivestreamWizard::CreateNDISender(UTextureRenderTarget2D* RenderTarget, FString Name) const
+{
+	AKyroNDISenderManager* Manager = FindOrCreateNDISenderManager();
+	FKyroNDISenderInterface Entry = LivestreamWizard::MakeSenderEntry<FKyroNDISenderInterface>(RenderTarget, Name);
+	// Runtime member: FKyroNDISenderInterface::bActive, the flag next to bEnabled.
+	Entry.bActive = true;
+	LivestreamWizard::AddSenderEntry(Manager, Entry);
+}
+
+void SLivestreamWizard::CreateMediaOutput(UTextureRenderTarget2D* RenderTarget) const
+{
+	LivestreamWizard::CreateOutputActor<AKyroMediaOutput>(RenderTarget);
+}
+
+void SLivestreamWizard::CreateVirtualCam(UTextureRenderTarget2D* RenderTarget) const
+{
+	LivestreamWizard::CreateOutputActor<AKyroVirtualWebcamOutput>(RenderTarget);
+}
+
+AKyroSpoutSenderManager* SLivestreamWizard::FindOrCreateSpoutSenderManager() const
+{
+	return LivestreamWizard::FindOrCreateSenderManager<AKyroSpoutSenderManager>();
+}
+
+AKyroNDISenderManager* SLivestreamWizard::FindOrCreateNDISenderManager() const
+{
+	return LivestreamWizard::FindOrCreateSenderManager<AKyroNDISenderManager>();
+}
+
+bool SLivestreamWizard::IsCaptureTypeSelected(const FString& Option) const
+{
+	const TSharedPtr<FString> SelectedItem = CameraTypeComboBox->GetSelectedItem();
+	check(SelectedItem.IsValid());
+	return *SelectedItem == Option;
+}
+
 FReply SLivestreamWizard::OnCreateButtonClicked()
 {
+	if (!CanCreateSetup())
+	{
+		return FReply::Handled();
+	}
+	if (CreateSetup())
+	{
+		DoneText->SetText(FText::Format(LOCTEXT("DoneText", "Livestream '{0}' created!"), StreamNameTextBox->GetText()));
+		DoneText->SetColorAndOpacity(FLinearColor::White);
+		DoneButtonText->SetText(LOCTEXT("DoneButtonText", "Create Another Livestream"));
+	}
+	else
+	{
+		DoneText->SetText(FText::Format(LOCTEXT("DoneText", "ERROR: Failed to create Livestream '{0}'!"), StreamNameTextBox->GetText()));
+		DoneText->SetColorAndOpacity(FLinearColor::Red);
+		DoneButtonText->SetText(LOCTEXT("DoneButtonText", "Try Again"));
+	}
+	bIsCreatorPage = false;
 	return FReply::Handled();
 }
 
@@ -303,7 +610,12 @@ FReply SLivestreamWizard::OnRestartButtonClicked()
 
 FReply SLivestreamWizard::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	return SCompoundWidget::OnKeyDown(MyGeometry, InKeyEvent);
+	if (InKeyEvent.GetKey() == EKeys::Enter)
+	{
+		OnCreateButtonClicked();
+		return FReply::Handled();
+	}
+	return FReply::Unhandled();
 }
 
 #undef LOCTEXT_NAMESPACE

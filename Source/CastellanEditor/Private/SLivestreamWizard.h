@@ -6,10 +6,14 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+class AActor;
+class AKyroNDISenderManager;
+class AKyroSpoutSenderManager;
 class SCheckBox;
 class SEditableTextBox;
 class STextBlock;
 class SWidget;
+class UTextureRenderTarget2D;
 template <typename OptionType>
 class SComboBox;
 
@@ -37,6 +41,23 @@ private:
 	EVisibility GetCreatorPageVisibility() const;
 	EVisibility GetDonePageVisibility() const;
 	bool GetCreateButtonEnabled() const;
+
+	/** Checks the inputs and rewrites both warning lines; true when a setup may be created. */
+	bool CanCreateSetup() const;
+	/** Builds render target, capture actor and the ticked outputs as one undoable step; false if no capture actor was made. */
+	bool CreateSetup() const;
+	/** Creates the render target and the capture actor at the active viewport's camera; OutAssetName gets the target's name. */
+	AActor* CreateCaptureActor(FString& OutAssetName) const;
+	/** The render target that CaptureActor, made for the current selection, renders into. */
+	UTextureRenderTarget2D* GetRenderTarget(AActor* CaptureActor) const;
+	void CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const;
+	void CreateNDISender(UTextureRenderTarget2D* RenderTarget, FString Name) const;
+	void CreateMediaOutput(UTextureRenderTarget2D* RenderTarget) const;
+	void CreateVirtualCam(UTextureRenderTarget2D* RenderTarget) const;
+	AKyroSpoutSenderManager* FindOrCreateSpoutSenderManager() const;
+	AKyroNDISenderManager* FindOrCreateNDISenderManager() const;
+	/** Whether the capture type selected in the combo is Option (ignoring case). */
+	bool IsCaptureTypeSelected(const FString& Option) const;
 
 	FReply OnCreateButtonClicked();
 	FReply OnRestartButtonClicked();

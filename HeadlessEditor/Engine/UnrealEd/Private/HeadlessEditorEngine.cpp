@@ -3,6 +3,7 @@
 #include "Editor.h"
 #include "Editor/UnrealEdEngine.h"
 #include "Engine/World.h"
+#include "Headless/HeadlessLevelEditor.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
 #include "UnrealEdGlobals.h"
@@ -17,6 +18,8 @@ namespace HeadlessEditorEngine
 		GUnrealEd = Engine;
 		GEditor = Engine;
 		GEngine = Engine;
+		Engine->Trans = Engine->CreateTrans();
+		HeadlessLevelEditor::Reset();
 		// A fresh editor opens an untitled map in a temporary package.
 		UWorld* EditorWorld = UWorld::CreateWorld(EWorldType::Editor, true, FName(TEXT("Untitled_1")), CreatePackage(TEXT("/Temp/Untitled_1")));
 		Engine->GetEditorWorldContext().SetCurrentWorld(EditorWorld);
@@ -33,6 +36,7 @@ namespace HeadlessEditorEngine
 				GEditor->GetEditorWorldContext().SetCurrentWorld(nullptr);
 			}
 		}
+		HeadlessLevelEditor::Reset();
 		GEditor = nullptr;
 		GUnrealEd = nullptr;
 		GEngine = nullptr;

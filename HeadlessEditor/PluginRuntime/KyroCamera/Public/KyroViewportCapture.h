@@ -3,12 +3,21 @@
 #include "CoreMinimal.h"
 #include "GameFramework/Actor.h"
 #include "UObject/ObjectMacros.h"
-
+#include "UObject/ObjectPtr.h"
 #include "KyroViewportCapture.generated.h"
 
-/** Captures the editor or game viewport into a render target. */
-UCLASS()
+class UTextureRenderTarget2D;
+
+/** Copies what the editor or game viewport shows into a render target. */
+UCLASS(ClassGroup = (Kyro))
 class KYROCAMERA_API AKyroViewportCapture : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	AKyroViewportCapture(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	/** The render target the viewport is copied into. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Kyro Capture")
+	TObjectPtr<UTextureRenderTarget2D> RenderTarget;
 };

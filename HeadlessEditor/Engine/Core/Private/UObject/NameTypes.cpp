@@ -1,5 +1,9 @@
 #include "UObject/NameTypes.h"
 
+#include "Internationalization/Internationalization.h"
+#include "Internationalization/Text.h"
+#include "Misc/AssertionMacros.h"
+
 #include <memory>
 #include <mutex>
 #include <string>
@@ -37,6 +41,8 @@ FName::FName(const WIDECHAR* Name, EFindName FindType)
 	// "None" in any case is the name table's first entry, NAME_None.
 	if (Name && *Name && !FString(Name).Equals(TEXT("None"), ESearchCase::IgnoreCase))
 	{
+		const int32 Len = static_cast<int32>(std::char_traits<WIDECHAR>::length(Name));
+		checkf(Len < NAME_SIZE, TEXT("FName's %d max length exceeded. Got %d characters excluding null-terminator."), NAME_SIZE - 1, Len);
 		FNameTable& Table = GetNameTable();
 		std::lock_guard<std::mutex> Lock(Table.Mutex);
 		std::unique_ptr<FEntry>& Slot = Table.BySpelling[std::u16string(Name)];
@@ -53,6 +59,31 @@ FName::FName(const WIDECHAR* Name, EFindName FindType)
 FName::FName(const ANSICHAR* Name, EFindName FindType)
 	: FName(Name ? *FString(Name) : static_cast<const WIDECHAR*>(nullptr), FindType)
 {
+}
+
+bool FName::IsValidXName(const FString& InName, const FString& InInvalidChars, FText* OutReason, const FText* InErrorCtx)
+{
+	FString MatchedInvalidChars;
+	for (int32 Index = 0; Index < InInvalidChars.Len(); ++Index)
+	{
+		int32 Found = INDEX_NONE;
+		if (InName.FindChar(InInvalidChars[Index], Found) && !MatchedInvalidChars.FindChar(InInvalidChars[Index], Found))
+		{
+			MatchedInvalidChars.AppendChar(InInvalidChars[Index]);
+		}
+	}
+	if (MatchedInvalidChars.IsEmpty())
+	{
+		return true;
+	}
+	if (OutReason)
+	{
+		FFormatNamedArguments Args;
+		Args.Add(TEXT("ErrorCtx"), InErrorCtx ? *InErrorCtx : NSLOCTEXT("Core", "NameDefaultErrorCtx", "Name"));
+		Args.Add(TEXT("IllegalNameCharacters"), FText::FromString(MatchedInvalidChars));
+		*OutReason = FText::Format(NSLOCTEXT("Core", "NameContainsInvalidCharacters", "{ErrorCtx} may not contain the following characters: {IllegalNameCharacters}"), Args);
+	}
+	return false;
 }
 
 FString FName::ToString() const

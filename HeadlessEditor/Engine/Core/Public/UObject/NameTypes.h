@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class FText;
+
 enum EName : uint32
 {
 	NAME_None = 0,
@@ -14,6 +16,12 @@ enum EFindName
 {
 	FNAME_Find,
 	FNAME_Add,
+};
+
+/** Maximum size of a name, its terminating null included. */
+enum
+{
+	NAME_SIZE = 1024
 };
 
 /** Characters that object names may not contain. */
@@ -33,6 +41,10 @@ public:
 	}
 	FName(const WIDECHAR* Name, EFindName FindType = FNAME_Add);
 	FName(const ANSICHAR* Name, EFindName FindType = FNAME_Add);
+
+	/** Whether the name holds none of InInvalidChars; an empty name is valid. */
+	static bool IsValidXName(const FString& InName, const FString& InInvalidChars, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr);
+	bool IsValidObjectName(FText& OutReason) const { return IsValidXName(ToString(), INVALID_OBJECTNAME_CHARACTERS, &OutReason); }
 
 	FString ToString() const;
 	void ToString(FString& Out) const { Out = ToString(); }

@@ -1,34 +1,20 @@
 #include "AssetRegistry/AssetData.h"
 
+#include "Misc/PackageName.h"
 #include "Templates/Casts.h"
 #include "UObject/Class.h"
-#include "UObject/Object.h"
 #include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 
-FString FTopLevelAssetPath::ToString() const
+FAssetData::FAssetData(const UObject* InAsset, ECreationFlags InCreationFlags)
 {
-	if (IsNull())
+	if (InAsset)
 	{
-		return FString();
+		const FString Package = InAsset->GetOutermost()->GetName();
+		PackageName = FName(*Package);
+		PackagePath = FName(*FPackageName::GetLongPackagePath(Package));
+		AssetName = InAsset->GetFName();
+		AssetClassPath = FTopLevelAssetPath(InAsset->GetClass()->GetOutermost()->GetFName(), InAsset->GetClass()->GetFName());
 	}
-	return PackageName.ToString() + TEXT(".") + AssetName.ToString();
-}
-
-FAssetData::FAssetData(const UObject* InAsset, FAssetData::ECreationFlags InCreationFlags)
-{
-	if (InAsset == nullptr)
-	{
-		return;
-	}
-	const UPackage* Package = InAsset->GetOutermost();
-	PackageName = Package->GetFName();
-	const FString PackageNameString = PackageName.ToString();
-	int32 LastSlash = INDEX_NONE;
-	PackagePath = PackageNameString.FindLastChar(TEXT('/'), LastSlash) ? FName(*PackageNameString.Left(LastSlash)) : NAME_None;
-	AssetName = InAsset->GetFName();
-	const UClass* Class = InAsset->GetClass();
-	AssetClassPath = FTopLevelAssetPath(Class->GetOutermost()->GetFName(), Class->GetFName());
 }
 
 FAssetData::FAssetData(const UObject* InAsset, bool bAllowBlueprintClass)
@@ -36,14 +22,19 @@ FAssetData::FAssetData(const UObject* InAsset, bool bAllowBlueprintClass)
 {
 }
 
-FString FAssetData::GetObjectPathString() const
+bool FAssetData::IsAssetLoaded() const
 {
-	return PackageName.ToString() + TEXT(".") + AssetName.ToString();
+	return GetAsset() != nullptr;
 }
 
 UObject* FAssetData::GetAsset() const
 {
-	return IsValid() ? StaticFindObject(nullptr, nullptr, *GetObjectPathString()) : nullptr;
+	if (!IsValid())
+	{
+		return nullptr;
+	}
+	UObject* Package = StaticFindObjectFast(UPackage::StaticClass(), nullptr, PackageName);
+	return Package ? StaticFindObjectFast(nullptr, Package, AssetName) : nullptr;
 }
 
 UClass* FAssetData::GetClass() const

@@ -2,22 +2,26 @@
 
 #include "CoreMinimal.h"
 
-/** The path of an object directly inside a package: "/Package/Name.Object". */
+/** The path of an object directly inside a package: "/Path/To/Package.AssetName". */
 struct COREUOBJECT_API FTopLevelAssetPath
 {
-	FTopLevelAssetPath() {}
+	FTopLevelAssetPath() = default;
 	FTopLevelAssetPath(FName InPackageName, FName InAssetName)
 		: PackageName(InPackageName)
 		, AssetName(InAssetName)
 	{
 	}
+	/** Parses "/Package.Asset"; anything else leaves the path empty. */
+	explicit FTopLevelAssetPath(const FString& Path);
 
 	FName GetPackageName() const { return PackageName; }
 	FName GetAssetName() const { return AssetName; }
-	bool IsNull() const { return PackageName.IsNone() && AssetName.IsNone(); }
+	bool IsValid() const { return !PackageName.IsNone(); }
+	bool IsNull() const { return PackageName.IsNone(); }
 	FString ToString() const;
 
-	bool operator==(const FTopLevelAssetPath& Other) const { return PackageName == Other.PackageName && AssetName == Other.AssetName; }
+	friend bool operator==(const FTopLevelAssetPath& A, const FTopLevelAssetPath& B) { return A.PackageName == B.PackageName && A.AssetName == B.AssetName; }
+	friend bool operator!=(const FTopLevelAssetPath& A, const FTopLevelAssetPath& B) { return !(A == B); }
 
 private:
 	FName PackageName;

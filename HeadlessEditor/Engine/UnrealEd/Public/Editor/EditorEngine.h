@@ -7,6 +7,12 @@
 #include "UObject/ObjectPtr.h"
 #include "EditorEngine.generated.h"
 
+class AActor;
+class FEditorViewportClient;
+class FLevelEditorViewportClient;
+class FViewport;
+class USelection;
+class UTransactor;
 class UWorld;
 
 /** The engine while the editor runs: the editor world and play sessions started from it. */
@@ -19,6 +25,37 @@ public:
 	/** The world of the running play session, or null. */
 	UPROPERTY()
 	TObjectPtr<class UWorld> PlayWorld;
+
+	/** The editor's undo history. */
+	UPROPERTY()
+	TObjectPtr<class UTransactor> Trans;
+
+	/** The clients of the level editor's viewports, in the order they were created. */
+	const TArray<class FLevelEditorViewportClient*>& GetLevelViewportClients() { return LevelViewportClients; }
+	const TArray<class FLevelEditorViewportClient*>& GetLevelViewportClients() const { return LevelViewportClients; }
+	int32 AddLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
+	void RemoveLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
+	const TArray<class FEditorViewportClient*>& GetAllViewportClients() { return AllViewportClients; }
+	const TArray<class FEditorViewportClient*>& GetAllViewportClients() const { return AllViewportClients; }
+	int32 AddViewportClients(FEditorViewportClient* ViewportClient);
+	void RemoveViewportClients(FEditorViewportClient* ViewportClient);
+	/** The viewport the level editor reports as active (the one last used), or null. */
+	FViewport* GetActiveViewport();
+	void RedrawAllViewports(bool bInvalidateHitProxies = true);
+
+	virtual void SelectActor(AActor* Actor, bool bInSelected, bool bNotify, bool bSelectEvenIfHidden = false, bool bForceRefresh = false) {}
+	virtual void SelectNone(bool bNoteSelectionChange, bool bDeselectBSPSurfs, bool WarnAboutManyActors = true) {}
+	class USelection* GetSelectedActors() const;
+	class USelection* GetSelectedObjects() const;
+
+	virtual UTransactor* CreateTrans();
+	virtual int32 BeginTransaction(const TCHAR* TransactionContext, const FText& Description, UObject* PrimaryObject);
+	int32 BeginTransaction(const FText& Description);
+	virtual bool CanTransact();
+	virtual int32 EndTransaction();
+	virtual void CancelTransaction(int32 Index);
+	void ResetTransaction(const FText& Reason);
+	bool UndoTransaction(bool bCanRedo = true);
 
 	/** The context of the world being edited. */
 	FWorldContext& GetEditorWorldContext(bool bEnsureIsGWorld = false);
@@ -49,4 +86,8 @@ protected:
 
 private:
 	FWorldContext EditorWorldContext;
+	TArray<class FLevelEditorViewportClient*> LevelViewportClients;
+	TArray<class FEditorViewportClient*> AllViewportClients;
+	mutable TObjectPtr<USelection> SelectedActors;
+	mutable TObjectPtr<USelection> SelectedObjects;
 };

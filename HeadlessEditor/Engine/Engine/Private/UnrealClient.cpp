@@ -1,0 +1,6 @@
+#include "UnrealClient.h"
+
+FViewport::FViewport(FViewportClient* InViewportClient)
+	: ViewportClient(InViewportClient)
+{
+}
