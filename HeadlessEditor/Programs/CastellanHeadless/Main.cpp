@@ -1,4 +1,4 @@
-// Boots the headless editor with the CastellanEditor module and prints what a user would see.
+// Boots the headless editor with the CastellanEditor module and shows what a user would see.
 
 #include "CastellanEditor.h"
 #include "Framework/Docking/TabManager.h"
@@ -7,9 +7,14 @@
 #include "Report.h"
 #include "WidgetDriver.h"
 #include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SComboBox.h"
+#include "Widgets/Input/SEditableTextBox.h"
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -21,27 +26,121 @@ namespace
 	int PrintUsage()
 	{
 		std::fputs(
-			"Usage: castellan-headless <command>\n"
+			"Usage: castellan-headless <command> [options]\n"
 			"Commands:\n"
-			"  wizard   open the Livestream Wizard tab and print what the module registered and the wizard\n",
+			"  wizard   open the Livestream Wizard and print what the module registered and the wizard\n"
+			"  menu     print the toolbar button and its drop-down menu\n"
+			"  create   fill in the wizard, press Create and print the done page, the level and the assets\n"
+			"           --capture \"Kyro Cinecam\"|\"Kyro 360 Camera\"|\"Kyro Viewport Capture\"\n"
+			"           --output Spout|NDI|\"Media Output (RTMP, SRT, MP4 etc.)\"|\"Virtual Webcam\" (repeatable)\n"
+			"           --name <livestream name>\n",
 			stderr);
 		return 2;
+	}
+
+	TSharedRef<SWidget> OpenWizard()
+	{
+		FModuleManager::GetModuleChecked<FCastellanEditorModule>(TEXT("CastellanEditor")).PluginButtonClicked();
+		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FCastellanEditorModule::LivestreamWizardTabName));
+		check(Tab.IsValid());
+		return Tab->GetContent();
 	}
 
 	int RunWizard()
 	{
 		FHeadlessEditorSession Session;
 		Print(CastellanReport::DescribeRegistrations());
+		Print(TEXT("\nLivestreamWizard tab:\n"));
+		Print(FWidgetDriver::DescribeTree(OpenWizard()));
+		return 0;
+	}
 
-		FModuleManager::GetModuleChecked<FCastellanEditorModule>(TEXT("CastellanEditor")).PluginButtonClicked();
-		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FCastellanEditorModule::LivestreamWizardTabName));
-		if (!Tab.IsValid())
+	int RunMenu()
+	{
+		FHeadlessEditorSession Session;
+		Print(CastellanReport::DescribeToolbarMenu());
+		return 0;
+	}
+
+	struct FCreateRequest
+	{
+		FString Capture = TEXT("Kyro Cinecam");
+		std::vector<FString> Outputs;
+		FString Name;
+	};
+
+	bool ParseCreateRequest(int ArgumentCount, char** Arguments, FCreateRequest& OutRequest)
+	{
+		for (int Index = 2; Index + 1 < ArgumentCount; Index += 2)
 		{
-			std::fputs("The LivestreamWizard tab did not open.\n", stderr);
+			const std::string Option = Arguments[Index];
+			const FString Value = FString::FromUtf8(Arguments[Index + 1]);
+			if (Option == "--capture")
+			{
+				OutRequest.Capture = Value;
+			}
+			else if (Option == "--output")
+			{
+				OutRequest.Outputs.push_back(Value);
+			}
+			else if (Option == "--name")
+			{
+				OutRequest.Name = Value;
+			}
+			else
+			{
+				return false;
+			}
+		}
+		return (ArgumentCount % 2) == 0;
+	}
+
+	/** Uses the wizard as a user does: pick, tick, type, press Create. */
+	bool FillInAndCreate(const TSharedRef<SWidget>& Wizard, const FCreateRequest& Request)
+	{
+		const TSharedPtr<SComboBox<TSharedPtr<FString>>> Combo = FWidgetDriver::Find<SComboBox<TSharedPtr<FString>>>(Wizard, TEXT("SComboBox"));
+		const TArray<TSharedPtr<FString>>& Options = FWidgetDriver::GetComboOptions(Combo.ToSharedRef());
+		const TSharedPtr<FString>* Capture = Options.FindByPredicate([&Request](const TSharedPtr<FString>& Option)
+			{ return Option->Equals(Request.Capture); });
+		if (!Capture)
+		{
+			std::fprintf(stderr, "Unknown capture type \"%s\".\n", Request.Capture.ToUtf8().c_str());
+			return false;
+		}
+		FWidgetDriver::PickComboItem(Combo.ToSharedRef(), *Capture);
+
+		for (const FString& Output : Request.Outputs)
+		{
+			const TSharedPtr<SCheckBox> CheckBox = FWidgetDriver::Find<SCheckBox>(Wizard, TEXT("SCheckBox"), Output);
+			if (!CheckBox.IsValid())
+			{
+				std::fprintf(stderr, "Unknown output \"%s\".\n", Output.ToUtf8().c_str());
+				return false;
+			}
+			FWidgetDriver::ToggleCheckBox(CheckBox.ToSharedRef());
+		}
+
+		FWidgetDriver::TypeText(FWidgetDriver::Find<SEditableTextBox>(Wizard, TEXT("SEditableTextBox")).ToSharedRef(), FText::FromString(Request.Name));
+		return FWidgetDriver::Click(FWidgetDriver::Find<SButton>(Wizard, TEXT("SButton"), FString(TEXT("Create"))).ToSharedRef());
+	}
+
+	int RunCreate(int ArgumentCount, char** Arguments)
+	{
+		FCreateRequest Request;
+		if (!ParseCreateRequest(ArgumentCount, Arguments, Request))
+		{
+			return PrintUsage();
+		}
+		FHeadlessEditorSession Session;
+		const TSharedRef<SWidget> Wizard = OpenWizard();
+		if (!FillInAndCreate(Wizard, Request))
+		{
 			return 1;
 		}
-		Print(TEXT("\nLivestreamWizard tab:\n"));
-		Print(FWidgetDriver::DescribeTree(Tab->GetContent()));
+		Print(TEXT("After pressing Create, the wizard shows:\n"));
+		Print(FWidgetDriver::DescribeTree(Wizard));
+		Print(TEXT("\n"));
+		Print(CastellanReport::DescribeLevelAndAssets());
 		return 0;
 	}
 }
@@ -56,6 +155,14 @@ int main(int ArgumentCount, char** Arguments)
 	if (Command == "wizard")
 	{
 		return RunWizard();
+	}
+	if (Command == "menu")
+	{
+		return RunMenu();
+	}
+	if (Command == "create")
+	{
+		return RunCreate(ArgumentCount, Arguments);
 	}
 	return PrintUsage();
 }

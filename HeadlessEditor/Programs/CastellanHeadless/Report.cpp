@@ -1,6 +1,19 @@
 #include "Report.h"
 
 #include "CastellanEditorStyle.h"
+#include "Editor/TransBuffer.h"
+#include "Editor/Transactor.h"
+#include "Engine/TextureRenderTarget2D.h"
+#include "GameFramework/Actor.h"
+#include "Headless/HeadlessMenus.h"
+#include "IPlacementModeModule.h"
+#include "KyroMediaOutput.h"
+#include "KyroNDISenderManager.h"
+#include "KyroSpoutSenderManager.h"
+#include "KyroVirtualWebcamOutput.h"
+#include "LevelDriver.h"
+#include "ToolMenus.h"
+#include "UObject/Package.h"
 #include "Framework/Docking/TabManager.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
@@ -53,6 +66,89 @@ namespace
 			AppendLine(Out, 1, FString::Printf(TEXT("Class customisation: %s"), *Pair.Key.ToString()));
 		}
 	}
+
+	FString DescribeObject(const UObject* Object)
+	{
+		return Object ? Object->GetPathName() : FString(TEXT("none"));
+	}
+
+	FString DescribeVector(const FVector& Vector)
+	{
+		return FString::Printf(TEXT("(%.0f, %.0f, %.0f)"), Vector.X, Vector.Y, Vector.Z);
+	}
+
+	template <typename EntryType>
+	void DescribeSenders(FString& Out, const TArray<EntryType>& Senders)
+	{
+		for (const EntryType& Sender : Senders)
+		{
+			AppendLine(Out, 2, FString::Printf(TEXT("sender \"%s\" (standalone \"%s\"), %s, render target %s"), *Sender.SenderName, *Sender.StandaloneSenderName, Sender.bEnabled ? TEXT("enabled") : TEXT("disabled"), *DescribeObject(Sender.RenderTarget)));
+		}
+	}
+
+	void DescribeActor(FString& Out, AActor* Actor)
+	{
+		AppendLine(Out, 1, FString::Printf(TEXT("%s (%s) at %s"), *Actor->GetName(), *Actor->GetClass()->GetName(), *DescribeVector(Actor->GetActorLocation())));
+		if (const AKyroSpoutSenderManager* Spout = Cast<AKyroSpoutSenderManager>(Actor))
+		{
+			DescribeSenders(Out, Spout->Senders);
+		}
+		else if (const AKyroNDISenderManager* NDI = Cast<AKyroNDISenderManager>(Actor))
+		{
+			DescribeSenders(Out, NDI->Senders);
+		}
+		else if (const AKyroMediaOutput* MediaOutput = Cast<AKyroMediaOutput>(Actor))
+		{
+			AppendLine(Out, 2, FString::Printf(TEXT("render target %s"), *DescribeObject(MediaOutput->RenderTarget)));
+		}
+		else if (const AKyroVirtualWebcamOutput* Webcam = Cast<AKyroVirtualWebcamOutput>(Actor))
+		{
+			AppendLine(Out, 2, FString::Printf(TEXT("render target %s"), *DescribeObject(Webcam->RenderTarget)));
+		}
+	}
+}
+
+FString CastellanReport::DescribeLevelAndAssets()
+{
+	FString Out;
+	AppendLine(Out, 0, TEXT("Level:"));
+	for (AActor* Actor : FLevelDriver::GetActors())
+	{
+		DescribeActor(Out, Actor);
+	}
+	AppendLine(Out, 0, TEXT("Selected:"));
+	for (AActor* Actor : FLevelDriver::GetSelectedActors())
+	{
+		AppendLine(Out, 1, Actor->GetName());
+	}
+	AppendLine(Out, 0, TEXT("Assets in /Game/LivestreamWizard:"));
+	for (UObject* Asset : FLevelDriver::GetAssets(TEXT("/Game/LivestreamWizard")))
+	{
+		AppendLine(Out, 1, FString::Printf(TEXT("%s (%s), package %s"), *Asset->GetPathName(), *Asset->GetClass()->GetName(), FLevelDriver::IsPackageDirty(Asset) ? TEXT("modified, unsaved") : TEXT("saved")));
+	}
+	AppendLine(Out, 0, TEXT("Undo history:"));
+	const UTransactor* History = FLevelDriver::GetTransactionHistory();
+	for (int32 Index = 0; History && Index < History->GetQueueLength(); ++Index)
+	{
+		AppendLine(Out, 1, FString::Printf(TEXT("\"%s\""), *History->GetTransaction(Index)->GetTitle().ToString()));
+	}
+	return Out;
+}
+
+FString CastellanReport::DescribeToolbarMenu()
+{
+	FString Out;
+	UToolMenu* Toolbar = UToolMenus::Get()->FindMenu(TEXT("LevelEditor.LevelEditorToolBar.AssetsToolBar"));
+	FToolMenuSection* Section = Toolbar ? Toolbar->FindSection(TEXT("Content")) : nullptr;
+	FToolMenuEntry* Button = Section ? Section->FindEntry(TEXT("Nimbrel")) : nullptr;
+	if (!Button)
+	{
+		AppendLine(Out, 0, TEXT("No toolbar button."));
+		return Out;
+	}
+	AppendLine(Out, 0, FString::Printf(TEXT("Toolbar \"LevelEditor.LevelEditorToolBar.AssetsToolBar\", section \"Content\": combo button \"%s\" (style %s)"), *Button->Label.Get().ToString(), *Button->StyleNameOverride.ToString()));
+	Out += UE::Headless::DescribeMenu(Button->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute());
+	return Out;
 }
 
 FString CastellanReport::DescribeRegistrations()
