@@ -1,0 +1,20 @@
+#include "Headless/HeadlessDesktop.h"
+
+namespace UE::Headless
+{
+	TArray<FShownMessageDialog>& GetMutableShownMessageDialogs()
+	{
+		static TArray<FShownMessageDialog> Dialogs;
+		return Dialogs;
+	}
+
+	const TArray<FShownMessageDialog>& GetShownMessageDialogs()
+	{
+		return GetMutableShownMessageDialogs();
+	}
+
+	void ResetDesktop()
+	{
+		GetMutableShownMessageDialogs().Reset();
+	}
+}

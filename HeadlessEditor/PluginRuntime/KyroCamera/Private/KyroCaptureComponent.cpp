@@ -1,0 +1,6 @@
+#include "KyroCaptureComponent.h"
+
+UKyroCaptureComponent::UKyroCaptureComponent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}
