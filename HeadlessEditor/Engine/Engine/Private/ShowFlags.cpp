@@ -1,6 +1,7 @@
 #include "ShowFlags.h"
 
 #include "Containers/Map.h"
+#include "Headless/HeadlessShowFlags.h"
 #include "Internationalization/Internationalization.h"
 
 namespace
@@ -60,6 +61,13 @@ namespace
 		return false;
 	}
 
+	bool GMissingFromBuild[FEngineShowFlags::SF_FirstCustom] = {};
+
+	bool IsInBuild(uint32 Index)
+	{
+		return Index < FEngineShowFlags::SF_FirstCustom && !GMissingFromBuild[Index];
+	}
+
 	const TMap<FString, FText>& GetDisplayNames()
 	{
 		static const TMap<FString, FText> DisplayNames = []()
@@ -92,6 +100,19 @@ namespace
 			return Names;
 		}();
 		return DisplayNames;
+	}
+}
+
+void UE::Headless::SetShowFlagsMissingFromBuild(const TArray<uint32>& Indices)
+{
+	for (bool& bMissing : GMissingFromBuild)
+	{
+		bMissing = false;
+	}
+	for (const uint32 Index : Indices)
+	{
+		check(Index < FEngineShowFlags::SF_FirstCustom);
+		GMissingFromBuild[Index] = true;
 	}
 }
 
@@ -153,7 +174,7 @@ int32 FEngineShowFlags::FindIndexByName(const TCHAR* Name, const TCHAR* CommaSep
 	{
 		for (int32 Index = 0; Index < SF_FirstCustom; ++Index)
 		{
-			if (Search == GShowFlagInfos[Index].Name)
+			if (!GMissingFromBuild[Index] && Search == GShowFlagInfos[Index].Name)
 			{
 				return Index;
 			}
@@ -189,7 +210,7 @@ int32 FEngineShowFlags::FindIndexByName(const TCHAR* Name, const TCHAR* CommaSep
 
 FString FEngineShowFlags::FindNameByIndex(uint32 InIndex)
 {
-	return InIndex < SF_FirstCustom ? FString(GShowFlagInfos[InIndex].Name) : FString();
+	return IsInBuild(InIndex) ? FString(GShowFlagInfos[InIndex].Name) : FString();
 }
 
 void FEngineShowFlags::Init(EShowFlagInitMode InitMode)
