@@ -19,6 +19,9 @@ public class CastellanEditor : ModuleRules
 				"Projects",
 				"PropertyEditor",
 				"Castellan",
+				"KyroSpout",
+				"KyroNDI",
+				"KyroScreenCapture",
 			}
 		);
 	}

@@ -1,6 +1,9 @@
 #include "CastellanEditor.h"
 
 #include "CastellanEditorStyle.h"
+#include "DetailCustomisations/NDIActiveSenderNamesCustomisation.h"
+#include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
+#include "DetailCustomisations/SpoutActiveSenderNamesCustomisation.h"
 #include "Framework/Docking/TabManager.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
@@ -32,6 +35,12 @@ void FCastellanEditorModule::StartupModule()
 	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FCastellanEditorModule::RegisterMenus));
 
 	FPropertyEditorModule& PropertyModule = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroSpoutReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FSpoutActiveSenderNamesCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroScreenCaptureOptions"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FScreenCaptureDetailsCustomisation::MakeInstance));
+	if (FModuleManager::Get().IsModuleLoaded(TEXT("KyroNDI")))
+	{
+		PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroNDIReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FNDIActiveSenderNamesCustomisation::MakeInstance));
+	}
 	PropertyModule.NotifyCustomizationModuleChanged();
 }
 

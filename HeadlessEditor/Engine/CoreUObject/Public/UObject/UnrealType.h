@@ -15,6 +15,7 @@ enum EPropertyPortFlags
 	PPF_Localized = 0x00000001,
 	PPF_Delimited = 0x00000002,
 	PPF_Copy = 0x00000008,
+	PPF_PropertyWindow = 0x00000080,
 };
 
 /** What kind of change a property edit made; constants, not an enum, as the engine has them. */

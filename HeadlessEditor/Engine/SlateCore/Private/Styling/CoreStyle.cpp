@@ -7,6 +7,15 @@ namespace
 	FSlateStyleSet& GetCoreStyleInstance()
 	{
 		static FSlateStyleSet Instance(TEXT("CoreStyle"));
+		static const bool bFontsSet = [&]()
+		{
+			// The editor's app style carries the details panel fonts.
+			Instance.Set(TEXT("PropertyWindow.NormalFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 8));
+			Instance.Set(TEXT("PropertyWindow.BoldFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Bold"), 8));
+			Instance.Set(TEXT("PropertyWindow.ItalicFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Italic"), 8));
+			return true;
+		}();
+		(void)bFontsSet;
 		return Instance;
 	}
 }
