@@ -12,16 +12,23 @@ public class CastellanEditor : ModuleRules
 			new string[]
 			{
 				"Core",
+				"CoreUObject",
+				"Engine",
 				"Slate",
 				"SlateCore",
 				"UnrealEd",
 				"ToolMenus",
 				"Projects",
 				"PropertyEditor",
+				"Documentation",
+				"GameProjectGeneration",
 				"Castellan",
 				"KyroSpout",
 				"KyroNDI",
 				"KyroScreenCapture",
+				"KyroCamera",
+				"Kyro360Camera",
+				"KyroMedia",
 			}
 		);
 	}

@@ -4,6 +4,8 @@
 #include "DetailCustomisations/NDIActiveSenderNamesCustomisation.h"
 #include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
 #include "DetailCustomisations/SpoutActiveSenderNamesCustomisation.h"
+#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
+#include "DetailCustomisations/MediaOutputDetailsCustomisation.h"
 #include "Framework/Docking/TabManager.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
@@ -41,6 +43,9 @@ void FCastellanEditorModule::StartupModule()
 	{
 		PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroNDIReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FNDIActiveSenderNamesCustomisation::MakeInstance));
 	}
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroCaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomClassLayout(TEXT("Kyro360CaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroMediaOutput"), FOnGetDetailCustomizationInstance::CreateStatic(&FMediaOutputDetailsCustomisation::MakeInstance));
 	PropertyModule.NotifyCustomizationModuleChanged();
 }
 
@@ -82,6 +87,9 @@ void FCastellanEditorModule::RegisterComposureCustomisation()
 	{
 		return;
 	}
+
+	FPropertyEditorModule& PropertyModule = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroCGCaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
 }
 
 #undef LOCTEXT_NAMESPACE
