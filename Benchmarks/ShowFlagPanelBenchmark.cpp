@@ -2,6 +2,7 @@
 #include "HeadlessEditorSession.h"
 #include "KyroCaptureComponent.h"
 #include "ShowFlags.h"
+#include "Templates/Casts.h"
 #include "UObject/Package.h"
 #include "WidgetDriver.h"
 #include "Widgets/Input/SCheckBox.h"

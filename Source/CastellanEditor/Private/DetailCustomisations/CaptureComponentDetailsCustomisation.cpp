@@ -73,10 +73,16 @@ namespace
 		return DisplayName.ToString();
 	}
 
+	/** Flag names match ignoring case; testing the length first keeps the per-frame scans cheap. */
+	bool IsSameFlagName(const FString& A, const FString& B)
+	{
+		return A.Len() == B.Len() && A == B;
+	}
+
 	const FEngineShowFlagsSetting* FindOverride(const FShowFlagSettings& Settings, const FString& FlagName)
 	{
 		return Settings.FindByPredicate([&FlagName](const FEngineShowFlagsSetting& Setting)
-			{ return Setting.ShowFlagName == FlagName; });
+			{ return IsSameFlagName(Setting.ShowFlagName, FlagName); });
 	}
 }
 
@@ -212,12 +218,12 @@ void FCaptureComponentDetailsCustomisation::OnShowFlagCheckStateChanged(ECheckBo
 		{
 			// An override equal to the default is never kept.
 			Settings->RemoveAll([&FlagName](const FEngineShowFlagsSetting& Setting)
-				{ return Setting.ShowFlagName == FlagName; });
+				{ return IsSameFlagName(Setting.ShowFlagName, FlagName); });
 			continue;
 		}
 
 		FEngineShowFlagsSetting* Override = Settings->FindByPredicate([&FlagName](const FEngineShowFlagsSetting& Setting)
-			{ return Setting.ShowFlagName == FlagName; });
+			{ return IsSameFlagName(Setting.ShowFlagName, FlagName); });
 		if (!Override)
 		{
 			Override = &Settings->AddDefaulted_GetRef();
