@@ -9,7 +9,6 @@ public class CastellanEditor : ModuleRules
 		PCHUsage = ModuleRules.PCHUsageMode.UseExplicitOrSharedPCHs;
 
 		// The factory's public header exposes UFactory and UKyroNDISoundWave.
-		// The factory's public header exposes UFactory and UKyroNDISoundWave.
 		PublicDependencyModuleNames.AddRange(
 			new string[]
 			{
@@ -33,6 +32,8 @@ public class CastellanEditor : ModuleRules
 				"PlacementMode",
 				"AssetTools",
 				"AssetRegistry",
+				"Documentation",
+				"GameProjectGeneration",
 				"Castellan",
 				"KyroCamera",
 				"Kyro360Camera",

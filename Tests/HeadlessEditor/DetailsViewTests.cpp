@@ -20,18 +20,12 @@
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Text/STextBlock.h"
 #include "WidgetDriver.h"
+#include "Support/RecordingTransaction.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
-	class FRecordingTransaction : public ITransaction
-	{
-	public:
-		virtual void SaveObject(UObject* Object) override { Saved.Add(Object); }
-		TArray<UObject*> Saved;
-	};
-
 	/** Shows "MonitorName" only, through a custom row, and counts its instances. */
 	class FTestOptionsCustomisation : public IPropertyTypeCustomization
 	{

@@ -13,19 +13,13 @@
 #include "Templates/Casts.h"
 #include "UObject/Package.h"
 #include "UnrealEdGlobals.h"
+#include "Support/RecordingTransaction.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
 	/** Records what Modify saves, as the editor's transaction buffer would. */
-	class FRecordingTransaction : public ITransaction
-	{
-	public:
-		virtual void SaveObject(UObject* Object) override { Saved.Add(Object); }
-		TArray<UObject*> Saved;
-	};
-
 	class ObjectTests : public ::testing::Test
 	{
 	protected:

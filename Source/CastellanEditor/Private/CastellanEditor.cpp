@@ -7,6 +7,8 @@
 #include "DetailCustomisations/NDIActiveSenderNamesCustomisation.h"
 #include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
 #include "DetailCustomisations/SpoutActiveSenderNamesCustomisation.h"
+#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
+#include "DetailCustomisations/MediaOutputDetailsCustomisation.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "Kyro360CamCapture.h"
@@ -61,6 +63,9 @@ void FCastellanEditorModule::StartupModule()
 	{
 		PropertyModule.RegisterCustomPropertyTypeLayout(TEXT("KyroNDIReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FNDIActiveSenderNamesCustomisation::MakeInstance));
 	}
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroCaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomClassLayout(TEXT("Kyro360CaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroMediaOutput"), FOnGetDetailCustomizationInstance::CreateStatic(&FMediaOutputDetailsCustomisation::MakeInstance));
 	PropertyModule.NotifyCustomizationModuleChanged();
 
 	LoadUpgradeSettings();
@@ -115,6 +120,9 @@ void FCastellanEditorModule::RegisterComposureCustomisation()
 	{
 		return;
 	}
+
+	FPropertyEditorModule& PropertyModule = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	PropertyModule.RegisterCustomClassLayout(TEXT("KyroCGCaptureComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
 }
 
 void FCastellanEditorModule::RegisterPlacementModeCategory()

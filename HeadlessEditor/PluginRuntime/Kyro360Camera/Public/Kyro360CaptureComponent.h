@@ -5,12 +5,16 @@
 #include "UObject/ObjectMacros.h"
 #include "Kyro360CaptureComponent.generated.h"
 
-/** Captures the full sphere around the camera and unwraps it into its TextureTarget. */
-UCLASS(ClassGroup = (Kyro), meta = (BlueprintSpawnableComponent))
+/** The scene capture of the plugin's 360-degree camera; its faces are stitched into one panorama. */
+UCLASS(ClassGroup = Rendering, editinlinenew, meta = (BlueprintSpawnableComponent))
 class KYRO360CAMERA_API UKyro360CaptureComponent : public USceneCaptureComponent2D
 {
 	GENERATED_BODY()
 
 public:
 	UKyro360CaptureComponent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	/** Width of the stitched panorama, in pixels. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
+	int32 PanoramaWidth = 4096;
 };

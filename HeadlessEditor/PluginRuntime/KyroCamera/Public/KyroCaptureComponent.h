@@ -5,12 +5,20 @@
 #include "UObject/ObjectMacros.h"
 #include "KyroCaptureComponent.generated.h"
 
-/** The scene capture of a cine camera: renders the camera's view into its TextureTarget. */
-UCLASS(ClassGroup = (Kyro), meta = (BlueprintSpawnableComponent))
+/** The scene capture of the plugin's cine camera and viewport capture actors. */
+UCLASS(ClassGroup = Rendering, editinlinenew, meta = (BlueprintSpawnableComponent))
 class KYROCAMERA_API UKyroCaptureComponent : public USceneCaptureComponent2D
 {
 	GENERATED_BODY()
 
 public:
 	UKyroCaptureComponent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	/** Frames captured per second. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
+	int32 CaptureFrameRate = 30;
+
+	/** Whether the capture keeps the scene's alpha channel. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
+	bool bCaptureAlpha = false;
 };

@@ -8,8 +8,8 @@
 
 class UTextureRenderTarget2D;
 
-/** Encodes a render target and streams or records it (RTMP, SRT, files). */
-UCLASS(ClassGroup = (Kyro))
+/** Encodes what a render target shows and streams or records it (RTMP, SRT, files). */
+UCLASS(BlueprintType)
 class KYROMEDIA_API AKyroMediaOutput : public AActor
 {
 	GENERATED_BODY()
@@ -20,4 +20,24 @@ public:
 	/** The texture encoded. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Media Output")
 	TObjectPtr<UTextureRenderTarget2D> RenderTarget;
+
+	/** Whether the output is running. */
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Media Output")
+	bool HasStarted = false;
+
+	/** How long the output has been running, in milliseconds. */
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Media Output")
+	uint64 DurationMs = 0;
+
+	/** Hides the encoder API options from the details panel. */
+	UPROPERTY(EditAnywhere, Category = "Media Output")
+	bool bHideAPIOptions = false;
+
+	/** Starts encoding; the duration counts from zero. */
+	UFUNCTION(BlueprintCallable, CallInEditor, Category = "Media Output")
+	void Start();
+
+	/** Stops encoding; the duration keeps its last value. */
+	UFUNCTION(BlueprintCallable, CallInEditor, Category = "Media Output")
+	void Stop();
 };

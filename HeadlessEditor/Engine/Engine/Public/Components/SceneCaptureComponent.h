@@ -52,11 +52,16 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, interp, Category = SceneCapture)
 	TArray<struct FEngineShowFlagsSetting> ShowFlagSettings;
 
-	/** The show flags the capture renders with, read from ShowFlagSettings. */
+	/** The show flags the capture renders with: the archetype's, with ShowFlagSettings applied. */
 	FEngineShowFlags ShowFlags;
 
 public:
 	/** Name of the profiling event. */
 	UPROPERTY(EditAnywhere, interp, Category = SceneCapture)
 	FString ProfilingEventName;
+
+	/** Rebuilds ShowFlags from the archetype's flags and the overrides. */
+	ENGINE_API void UpdateShowFlags();
+
+	ENGINE_API virtual void PostEditChangeProperty(struct FPropertyChangedEvent& PropertyChangedEvent) override;
 };

@@ -204,6 +204,14 @@ UTransBuffer::UTransBuffer(const FObjectInitializer& ObjectInitializer)
 {
 }
 
+FTransactionContext FTransaction::GetContext() const
+{
+	FTransactionContext TransactionContext;
+	TransactionContext.Context = Context;
+	TransactionContext.Title = Title;
+	return TransactionContext;
+}
+
 int32 UTransBuffer::Begin(const TCHAR* SessionContext, const FText& Description)
 {
 	const int32 Result = ActiveCount;

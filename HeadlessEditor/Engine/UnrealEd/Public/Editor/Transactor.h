@@ -28,6 +28,7 @@ public:
 
 	/** Records Object's state the first time it is saved in this transaction. */
 	virtual void SaveObject(UObject* Object) override;
+	virtual FTransactionContext GetContext() const override;
 
 	/** The text the editor's Undo entry shows. */
 	FText GetTitle() const { return Title; }

@@ -1,0 +1,6 @@
+#include "KyroCGCaptureComponent.h"
+
+UKyroCGCaptureComponent::UKyroCGCaptureComponent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}

@@ -1,0 +1,315 @@
+#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
+#include "Headless/HeadlessDetailsView.h"
+#include "Headless/HeadlessShowFlags.h"
+#include "HeadlessEditorSession.h"
+#include "Kyro360CaptureComponent.h"
+#include "KyroCGCaptureComponent.h"
+#include "KyroCaptureComponent.h"
+#include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
+#include "ShowFlags.h"
+#include "UObject/Package.h"
+#include "WidgetDriver.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Text/STextBlock.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+	const TCHAR* CategoryName = TEXT("Nimbrel Capture Settings");
+
+	class CaptureComponentShowFlagTests : public ::testing::Test
+	{
+	protected:
+		virtual void SetUp() override { Session = MakeUnique<FHeadlessEditorSession>(Options); }
+
+		virtual void TearDown() override
+		{
+			View.Reset();
+			Session = nullptr;
+			UE::Headless::SetShowFlagsMissingFromBuild({});
+		}
+
+		template <typename ComponentType>
+		ComponentType* MakeComponent(UObject* Template = nullptr)
+		{
+			return NewObject<ComponentType>(GetTransientPackage(), ComponentType::StaticClass(), NAME_None, RF_NoFlags, Template);
+		}
+
+		void Show(const TArray<UObject*>& Objects)
+		{
+			View = MakeShared<FHeadlessDetailsView>();
+			View->SetObjects(Objects);
+		}
+
+		const FHeadlessDetailCategory& GetCategory() const
+		{
+			for (const TSharedRef<FHeadlessDetailCategory>& Category : View->GetCategories())
+			{
+				if (Category->Name == FName(CategoryName))
+				{
+					return *Category;
+				}
+			}
+			checkf(false, TEXT("No capture settings category"));
+			return *View->GetCategories()[0];
+		}
+
+		TArray<TSharedRef<FHeadlessDetailRow>> GetGroups() const
+		{
+			TArray<TSharedRef<FHeadlessDetailRow>> Groups;
+			for (const TSharedRef<FHeadlessDetailRow>& Row : GetCategory().Rows)
+			{
+				if (Row->Kind == FHeadlessDetailRow::EKind::Group)
+				{
+					Groups.Add(Row);
+				}
+			}
+			return Groups;
+		}
+
+		static FString GetFlagLabel(FHeadlessDetailRow& Row) { return FWidgetDriver::GetDisplayedText(Row.Widgets.NameContent().Widget).Get(FString()); }
+
+		TArray<FString> GetGroupLabels(int32 GroupIndex) const
+		{
+			TArray<FString> Labels;
+			for (const TSharedRef<FHeadlessDetailRow>& Row : GetGroups()[GroupIndex]->Children)
+			{
+				Labels.Add(GetFlagLabel(*Row));
+			}
+			return Labels;
+		}
+
+		TSharedRef<SCheckBox> FindBox(const FString& DisplayName) const
+		{
+			for (const TSharedRef<FHeadlessDetailRow>& Group : GetGroups())
+			{
+				for (const TSharedRef<FHeadlessDetailRow>& Row : Group->Children)
+				{
+					if (GetFlagLabel(*Row).Equals(DisplayName))
+					{
+						return StaticCastSharedRef<SCheckBox>(Row->Widgets.ValueContent().Widget);
+					}
+				}
+			}
+			checkf(false, TEXT("No box for %s"), *DisplayName);
+			return SNew(SCheckBox);
+		}
+
+		static const FEngineShowFlagsSetting* FindSetting(const USceneCaptureComponent* Component, const FString& Name)
+		{
+			return Component->ShowFlagSettings.FindByPredicate([&Name](const FEngineShowFlagsSetting& Setting)
+				{ return Setting.ShowFlagName.Equals(Name); });
+		}
+
+		static void AddSetting(USceneCaptureComponent* Component, const FString& Name, bool bEnabled)
+		{
+			FEngineShowFlagsSetting& Setting = Component->ShowFlagSettings.AddDefaulted_GetRef();
+			Setting.ShowFlagName = Name;
+			Setting.Enabled = bEnabled;
+		}
+
+		FHeadlessEditorOptions Options;
+		TUniquePtr<FHeadlessEditorSession> Session;
+		TSharedPtr<FHeadlessDetailsView> View;
+	};
+}
+
+TEST_F(CaptureComponentShowFlagTests, FlagsAreGroupedAsTheEngineGroupsThemBelowTheCategorysOwnProperties)
+{
+	Show({MakeComponent<UKyroCaptureComponent>()});
+
+	EXPECT_TRUE(View->GetHiddenPropertyNames().Contains(FName(TEXT("ShowFlagSettings"))));
+	const FHeadlessDetailCategory& Category = GetCategory();
+	ASSERT_GE(Category.Rows.Num(), 2);
+	EXPECT_EQ(Category.Rows[0]->Name, FName(TEXT("CaptureFrameRate")));
+	EXPECT_EQ(Category.Rows[1]->Name, FName(TEXT("bCaptureAlpha")));
+
+	const TArray<TSharedRef<FHeadlessDetailRow>> Groups = GetGroups();
+	const TCHAR* ExpectedLabels[] = {TEXT("General Show Flags"), TEXT("Advanced Show Flags"), TEXT("Post Processing Show Flags"), TEXT("Light Types Show Flags"), TEXT("Lighting Components Show Flags"), TEXT("Lighting Features Show Flags"), TEXT("Hidden Show Flags")};
+	const int32 ExpectedCounts[] = {11, 8, 5, 1, 2, 8, 4};
+	ASSERT_EQ(Groups.Num(), 7);
+	for (int32 Index = 0; Index < Groups.Num(); ++Index)
+	{
+		EXPECT_TRUE(Groups[Index]->DisplayName.ToString().Equals(ExpectedLabels[Index])) << Index;
+		EXPECT_EQ(Groups[Index]->Name, FName(ExpectedLabels[Index]));
+		EXPECT_EQ(Groups[Index]->Children.Num(), ExpectedCounts[Index]) << Index;
+		EXPECT_TRUE(Groups[Index]->bAdvanced);
+		EXPECT_FALSE(Groups[Index]->bExpanded);
+	}
+}
+
+TEST_F(CaptureComponentShowFlagTests, FlagsAreSortedByDisplayName)
+{
+	Show({MakeComponent<UKyroCaptureComponent>()});
+
+	const TArray<FString> Advanced = GetGroupLabels(1);
+	const TCHAR* Expected[] = {TEXT("DeferredLighting"), TEXT("Foliage"), TEXT("Grass"), TEXT("Instanced Static Meshes"), TEXT("Nanite Meshes"), TEXT("Paper 2D Sprites"), TEXT("Render (3D) Text"), TEXT("Temporal AA (instead FXAA)")};
+	ASSERT_EQ(Advanced.Num(), 8);
+	for (int32 Index = 0; Index < 8; ++Index)
+	{
+		EXPECT_TRUE(Advanced[Index].Equals(Expected[Index])) << Index;
+	}
+	const TArray<FString> Hidden = GetGroupLabels(6);
+	ASSERT_EQ(Hidden.Num(), 4);
+	EXPECT_TRUE(Hidden[0].Equals(TEXT("Game")));
+	EXPECT_TRUE(Hidden[3].Equals(TEXT("Post-processing")));
+	const TSharedPtr<STextBlock> Label = FWidgetDriver::Find<STextBlock>(GetGroups()[0]->Children[0]->Widgets.NameContent().Widget, TEXT("STextBlock"));
+	EXPECT_EQ(FWidgetDriver::GetFont(*Label).Size, 8.0f);
+}
+
+TEST_F(CaptureComponentShowFlagTests, FlagsMissingFromTheBuildAreSkippedAndEmptyGroupsLeftOut)
+{
+	UE::Headless::SetShowFlagsMissingFromBuild({FEngineShowFlags::SF_SkyLighting, FEngineShowFlags::SF_Bloom});
+	Show({MakeComponent<UKyroCaptureComponent>()});
+
+	const TArray<TSharedRef<FHeadlessDetailRow>> Groups = GetGroups();
+	ASSERT_EQ(Groups.Num(), 6);
+	EXPECT_EQ(Groups[2]->Children.Num(), 4);
+	EXPECT_TRUE(Groups[3]->DisplayName.ToString().Equals(TEXT("Lighting Components Show Flags")));
+}
+
+TEST_F(CaptureComponentShowFlagTests, BoxesShowOverridesOrElseTheArchetypesFlags)
+{
+	UKyroCaptureComponent* Component = MakeComponent<UKyroCaptureComponent>();
+	AddSetting(Component, TEXT("fog"), false);
+	Show({Component});
+
+	EXPECT_EQ(FindBox(TEXT("Bloom"))->GetCheckedState(), ECheckBoxState::Checked);
+	// Scene captures start without motion blur and path tracing.
+	EXPECT_EQ(FindBox(TEXT("Motion Blur"))->GetCheckedState(), ECheckBoxState::Unchecked);
+	EXPECT_EQ(FindBox(TEXT("Path tracing"))->GetCheckedState(), ECheckBoxState::Unchecked);
+	// Override names match ignoring case.
+	EXPECT_EQ(FindBox(TEXT("Fog"))->GetCheckedState(), ECheckBoxState::Unchecked);
+
+	Component->ShowFlagSettings.Reset();
+	EXPECT_EQ(FindBox(TEXT("Fog"))->GetCheckedState(), ECheckBoxState::Checked);
+}
+
+TEST_F(CaptureComponentShowFlagTests, AnArchetypesOwnFlagsAreTheDefaults)
+{
+	UKyro360CaptureComponent* Archetype = MakeComponent<UKyro360CaptureComponent>();
+	Archetype->SetFlags(RF_ArchetypeObject);
+	Archetype->ShowFlags.SetSingleFlag(FEngineShowFlags::SF_Bloom, false);
+	UKyro360CaptureComponent* Component = MakeComponent<UKyro360CaptureComponent>(Archetype);
+	ASSERT_EQ(Component->GetArchetype(), Archetype);
+	Show({Component});
+
+	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
+	EXPECT_EQ(Bloom->GetCheckedState(), ECheckBoxState::Unchecked);
+	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
+	ASSERT_NE(FindSetting(Component, TEXT("Bloom")), nullptr);
+	EXPECT_TRUE(FindSetting(Component, TEXT("Bloom"))->Enabled);
+}
+
+TEST_F(CaptureComponentShowFlagTests, ComponentsThatDisagreeShowUndeterminedAndAClickSetsBoth)
+{
+	UKyroCaptureComponent* First = MakeComponent<UKyroCaptureComponent>();
+	UKyroCaptureComponent* Second = MakeComponent<UKyroCaptureComponent>();
+	AddSetting(First, TEXT("Bloom"), false);
+	AddSetting(First, TEXT("Fog"), false);
+	Show({First, Second});
+
+	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
+	EXPECT_EQ(Bloom->GetCheckedState(), ECheckBoxState::Undetermined);
+	EXPECT_EQ(FindBox(TEXT("Decals"))->GetCheckedState(), ECheckBoxState::Checked);
+
+	const int32 FinishedBefore = View->GetFinishedChangingCount();
+	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
+	const ECheckBoxState AfterClick = Bloom->GetCheckedState();
+	ASSERT_NE(AfterClick, ECheckBoxState::Undetermined);
+	EXPECT_GT(View->GetFinishedChangingCount(), FinishedBefore);
+
+	const bool bValue = AfterClick == ECheckBoxState::Checked;
+	for (const UKyroCaptureComponent* Component : {First, Second})
+	{
+		const FEngineShowFlagsSetting* Setting = FindSetting(Component, TEXT("Bloom"));
+		// Bloom is on by default: only an "off" is stored.
+		if (bValue)
+		{
+			EXPECT_EQ(Setting, nullptr);
+		}
+		else
+		{
+			ASSERT_NE(Setting, nullptr);
+			EXPECT_FALSE(Setting->Enabled);
+		}
+		EXPECT_EQ(Component->ShowFlags.GetSingleFlag(FEngineShowFlags::SF_Bloom), bValue);
+	}
+	EXPECT_NE(FindSetting(First, TEXT("Fog")), nullptr);
+}
+
+TEST_F(CaptureComponentShowFlagTests, TickingAFlagBackToItsDefaultRemovesTheOverride)
+{
+	UKyroCaptureComponent* Component = MakeComponent<UKyroCaptureComponent>();
+	AddSetting(Component, TEXT("MotionBlur"), true);
+	AddSetting(Component, TEXT("Decals"), false);
+	Show({Component});
+
+	const TSharedRef<SCheckBox> MotionBlur = FindBox(TEXT("Motion Blur"));
+	ASSERT_EQ(MotionBlur->GetCheckedState(), ECheckBoxState::Checked);
+	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(MotionBlur));
+	EXPECT_EQ(MotionBlur->GetCheckedState(), ECheckBoxState::Unchecked);
+	EXPECT_EQ(FindSetting(Component, TEXT("MotionBlur")), nullptr);
+	ASSERT_EQ(Component->ShowFlagSettings.Num(), 1);
+	EXPECT_TRUE(Component->ShowFlagSettings[0].ShowFlagName.Equals(TEXT("Decals")));
+}
+
+TEST_F(CaptureComponentShowFlagTests, AnUnrelatedArchetypeMakesEveryDefaultFalse)
+{
+	Options.bKyroComposureLoaded = true;
+	Session = nullptr;
+	Session = MakeUnique<FHeadlessEditorSession>(Options);
+	UKyroCGCaptureComponent* Component = MakeComponent<UKyroCGCaptureComponent>();
+	AddSetting(Component, TEXT("NotAShowFlag"), true);
+	Show({Component});
+
+	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
+	EXPECT_EQ(Bloom->GetCheckedState(), ECheckBoxState::Unchecked);
+	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
+	ASSERT_NE(FindSetting(Component, TEXT("Bloom")), nullptr);
+	EXPECT_TRUE(FindSetting(Component, TEXT("Bloom"))->Enabled);
+	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
+	EXPECT_EQ(FindSetting(Component, TEXT("Bloom")), nullptr);
+	// An override the engine does not know stays, without a box.
+	ASSERT_EQ(Component->ShowFlagSettings.Num(), 1);
+	EXPECT_TRUE(Component->ShowFlagSettings[0].ShowFlagName.Equals(TEXT("NotAShowFlag")));
+}
+
+TEST(CaptureComponentRegistration, CompositionCaptureIsCustomisedOnlyOnceTheEngineLoopHasStartedAndTheModuleIsLoaded)
+{
+	for (const bool bComposureLoaded : {true, false})
+	{
+		FHeadlessEditorOptions Options;
+		Options.bKyroComposureLoaded = bComposureLoaded;
+		Options.bStartEditorModule = false;
+		FHeadlessEditorSession Session(Options);
+		Session.StartEditorModule();
+
+		const FPropertyEditorModule& PropertyEditor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+		const FName CGClass(TEXT("KyroCGCaptureComponent"));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("KyroCaptureComponent"))));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("Kyro360CaptureComponent"))));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("KyroMediaOutput"))));
+		EXPECT_FALSE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass));
+		const int32 ChangesBefore = PropertyEditor.GetCustomizationModuleChangedCount();
+
+		Session.FinishEngineInitialisation();
+		EXPECT_EQ(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass), bComposureLoaded);
+		EXPECT_EQ(PropertyEditor.GetCustomizationModuleChangedCount(), ChangesBefore);
+	}
+}
+
+TEST(CaptureComponentShowFlagDeathTest, AClassWithoutShowFlagSettingsIsFatal)
+{
+	EXPECT_DEATH(
+		{
+			FHeadlessEditorSession Session;
+			FPropertyEditorModule& PropertyEditor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+			PropertyEditor.RegisterCustomClassLayout(TEXT("SceneComponent"), FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+			TSharedRef<FHeadlessDetailsView> View = MakeShared<FHeadlessDetailsView>();
+			View->SetObjects({NewObject<USceneComponent>()});
+		},
+		"ShowFlagSettingsProperty->IsValidHandle\\(\\)");
+}
