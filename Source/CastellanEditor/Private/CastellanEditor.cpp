@@ -3,12 +3,12 @@
 #include "AuthDelegates.h"
 #include "CastellanEditorCommands.h"
 #include "CastellanEditorStyle.h"
-#include "Framework/Commands/UICommandList.h"
+#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
+#include "DetailCustomisations/MediaOutputDetailsCustomisation.h"
 #include "DetailCustomisations/NDIActiveSenderNamesCustomisation.h"
 #include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
 #include "DetailCustomisations/SpoutActiveSenderNamesCustomisation.h"
-#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
-#include "DetailCustomisations/MediaOutputDetailsCustomisation.h"
+#include "Framework/Commands/UICommandList.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "Kyro360CamCapture.h"
@@ -45,7 +45,12 @@ void FCastellanEditorModule::StartupModule()
 	FCastellanEditorStyle::Initialize();
 	FCastellanEditorStyle::ReloadTextures();
 
-	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(LivestreamWizardTabName, FOnSpawnTab::CreateRaw(this, &FCastellanEditorModule::OnSpawnPluginTab)).SetDisplayName(LOCTEXT("LivestreamWizardTitle", "Livestream Wizard")).SetTooltipText(LOCTEXT("LivestreamWizardTooltipText", "Open the Livestream Wizard tab.")).SetIcon(FSlateIcon(FCastellanEditorStyle::GetStyleSetName(), TEXT("KyroCastellan.WizardIcon_16x")));
+	// clang-format off
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(LivestreamWizardTabName, FOnSpawnTab::CreateRaw(this, &FCastellanEditorModule::OnSpawnPluginTab))
+		.SetDisplayName(LOCTEXT("LivestreamWizardTitle", "Livestream Wizard"))
+		.SetTooltipText(LOCTEXT("LivestreamWizardTooltipText", "Open the Livestream Wizard tab."))
+		.SetIcon(FSlateIcon(FCastellanEditorStyle::GetStyleSetName(), TEXT("KyroCastellan.WizardIcon_16x")));
+	// clang-format on
 
 	FCastellanEditorCommands::Register();
 	PluginCommands = MakeShareable(new FUICommandList);
@@ -109,9 +114,13 @@ void FCastellanEditorModule::PluginButtonClicked()
 
 TSharedRef<SDockTab> FCastellanEditorModule::OnSpawnPluginTab(const FSpawnTabArgs& SpawnTabArgs)
 {
+	// clang-format off
 	return SNew(SDockTab)
 		.TabRole(ETabRole::NomadTab)
-			[SNew(SLivestreamWizard)];
+		[
+			SNew(SLivestreamWizard)
+		];
+	// clang-format on
 }
 
 void FCastellanEditorModule::RegisterComposureCustomisation()

@@ -1,4 +1,5 @@
 #include "CastellanEditor.h"
+
 #include "CastellanEditorCommands.h"
 #include "CastellanEditorStyle.h"
 #include "CastellanEditorWebLinks.h"

@@ -51,6 +51,18 @@ namespace LivestreamWizard
 	const FMargin ItemPadding(0.0f, 2.0f);
 	const TCHAR* const AssetFolder = TEXT("/Game/LivestreamWizard/");
 
+	/** An output's check box, unchecked, with its caption as plain (unlocalised) text. */
+	TSharedRef<SCheckBox> MakeOutputCheckBox(TSharedPtr<SCheckBox>& OutCheckBox, const TCHAR* Caption)
+	{
+		// clang-format off
+		return SAssignNew(OutCheckBox, SCheckBox)
+			[
+				SNew(STextBlock)
+				.Text(FText::FromString(Caption))
+			];
+		// clang-format on
+	}
+
 	/** Outputs go to the world of the first level viewport client (the camera goes to the active one). */
 	UWorld* GetOutputWorld()
 	{
@@ -226,41 +238,25 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							.AutoHeight()
 							.Padding(ItemPadding)
 							[
-								SAssignNew(SpoutCheckBox, SCheckBox)
-								[
-									SNew(STextBlock)
-									.Text(FText::FromString(TEXT("Spout")))
-								]
+								LivestreamWizard::MakeOutputCheckBox(SpoutCheckBox, TEXT("Spout"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							.Padding(ItemPadding)
 							[
-								SAssignNew(NDICheckBox, SCheckBox)
-								[
-									SNew(STextBlock)
-									.Text(FText::FromString(TEXT("NDI")))
-								]
+								LivestreamWizard::MakeOutputCheckBox(NDICheckBox, TEXT("NDI"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							.Padding(ItemPadding)
 							[
-								SAssignNew(MediaOutputCheckBox, SCheckBox)
-								[
-									SNew(STextBlock)
-									.Text(FText::FromString(TEXT("Media Output (RTMP, SRT, MP4 etc.)")))
-								]
+								LivestreamWizard::MakeOutputCheckBox(MediaOutputCheckBox, TEXT("Media Output (RTMP, SRT, MP4 etc.)"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							.Padding(ItemPadding)
 							[
-								SAssignNew(VirtualWebcamCheckBox, SCheckBox)
-								[
-									SNew(STextBlock)
-									.Text(FText::FromString(TEXT("Virtual Webcam")))
-								]
+								LivestreamWizard::MakeOutputCheckBox(VirtualWebcamCheckBox, TEXT("Virtual Webcam"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
@@ -520,16 +516,17 @@ AActor* SLivestreamWizard::CreateCaptureActor(FString& OutAssetName) const
 
 UTextureRenderTarget2D* SLivestreamWizard::GetRenderTarget(AActor* CaptureActor) const
 {
+	// Called with the actor CreateCaptureActor has just made for this selection, so the casts hold.
 	// Runtime members as in CreateCaptureActor.
 	if (IsCaptureTypeSelected(CineCamOption))
 	{
-		return CastChecked<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
+		return Cast<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
 	}
 	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
 	{
-		return CastChecked<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
+		return Cast<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
 	}
-	return CastChecked<AKyroViewportCapture>(CaptureActor)->RenderTarget.Get();
+	return Cast<AKyroViewportCapture>(CaptureActor)->RenderTarget.Get();
 }
 
 void SLivestreamWizard::CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const
