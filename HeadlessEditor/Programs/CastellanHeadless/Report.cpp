@@ -4,6 +4,8 @@
 #include "Editor/TransBuffer.h"
 #include "Editor/Transactor.h"
 #include "Engine/TextureRenderTarget2D.h"
+#include "Framework/Commands/InputBindingManager.h"
+#include "Framework/Commands/UICommandInfo.h"
 #include "GameFramework/Actor.h"
 #include "Headless/HeadlessMenus.h"
 #include "IPlacementModeModule.h"
@@ -48,6 +50,39 @@ namespace
 			return;
 		}
 		AppendLine(Out, 1, FString::Printf(TEXT("Nomad tab \"LivestreamWizard\": \"%s\", tooltip \"%s\", icon %s"), *Spawner->GetDisplayName().ToString(), *Spawner->GetTooltipText().ToString(), *Spawner->GetIcon().GetStyleName().ToString()));
+	}
+
+	void DescribeCommands(FString& Out)
+	{
+		TArray<TSharedPtr<FUICommandInfo>> Commands;
+		FInputBindingManager::Get().GetCommandInfosFromContext(TEXT("CastellanEditor"), Commands);
+		AppendLine(Out, 1, FString::Printf(TEXT("Command context \"CastellanEditor\": %d commands"), Commands.Num()));
+	}
+
+	void DescribeToolbarButton(FString& Out)
+	{
+		UToolMenu* Toolbar = UToolMenus::Get()->FindMenu(TEXT("LevelEditor.LevelEditorToolBar.AssetsToolBar"));
+		FToolMenuSection* Section = Toolbar ? Toolbar->FindSection(TEXT("Content")) : nullptr;
+		if (Section && Section->FindEntry(TEXT("Nimbrel")))
+		{
+			AppendLine(Out, 1, TEXT("Toolbar combo button \"Nimbrel\" in LevelEditor.LevelEditorToolBar.AssetsToolBar, section \"Content\""));
+		}
+	}
+
+	void DescribePlacementCategory(FString& Out)
+	{
+		if (!IPlacementModeModule::IsAvailable())
+		{
+			return;
+		}
+		const FPlacementCategoryInfo* Category = IPlacementModeModule::Get().GetRegisteredPlacementCategory(TEXT("Nimbrel"));
+		if (!Category)
+		{
+			return;
+		}
+		TArray<TSharedPtr<FPlaceableItem>> Items;
+		IPlacementModeModule::Get().GetItemsForCategory(Category->UniqueHandle, Items);
+		AppendLine(Out, 1, FString::Printf(TEXT("Placement category \"%s\" (%s): %d actor classes"), *Category->DisplayName.ToString(), *Category->TagMetaData, Items.Num()));
 	}
 
 	void DescribeCustomisations(FString& Out)
@@ -157,6 +192,9 @@ FString CastellanReport::DescribeRegistrations()
 	AppendLine(Out, 0, TEXT("Registered by CastellanEditor:"));
 	DescribeStyle(Out);
 	DescribeTab(Out);
+	DescribeCommands(Out);
+	DescribeToolbarButton(Out);
+	DescribePlacementCategory(Out);
 	DescribeCustomisations(Out);
 	return Out;
 }
