@@ -3,7 +3,11 @@
 #include "Editor/EditorEngine.h"
 #include "Engine/World.h"
 #include "HeadlessEditorSession.h"
+#include "DetailCustomisations/ScreenCaptureDetailsCustomisation.h"
 #include "KyroScreenCapture.h"
+#include "KyroSpoutReceiverManager.h"
+#include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
 #include "SourceListControls.h"
 #include "Widgets/Input/SComboBox.h"
 #include "WidgetDriver.h"
@@ -87,5 +91,21 @@ TEST_F(ScreenCapturePickerTests, PickWritesTheNameWithNotifications)
 TEST_F(ScreenCapturePickerTests, EmptyMonitorListWithAnEmptyNameIsFatal)
 {
 	HeadlessSourceLists::SetMonitorNames({});
-	EXPECT_DEATH(FDetailsViewDriver Driver({Spawn()}), "");
+	EXPECT_DEATH(FDetailsViewDriver Driver({Spawn()}), "Array index out of bounds: 0 from an array of size 0");
+}
+
+TEST_F(ScreenCapturePickerTests, AStructWithoutTheCaptureTypeChildIsFatal)
+{
+	// Shown on a struct that lacks "ScreenCaptureType", the customisation stops at that child.
+	FModuleManager::GetModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor")).RegisterCustomPropertyTypeLayout(TEXT("KyroSpoutReceiverInterface"), FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FScreenCaptureDetailsCustomisation::MakeInstance));
+	AKyroSpoutReceiverManager* Receiver = GEditor->GetEditorWorldContext().World()->SpawnActor<AKyroSpoutReceiverManager>();
+
+	EXPECT_DEATH(FDetailsViewDriver Driver({Receiver}), "Assertion failed: IsValid\\(\\)");
+}
+
+TEST_F(ScreenCapturePickerTests, ANullOptionReachingTheRowGeneratorIsFatal)
+{
+	const TSharedRef<IPropertyTypeCustomization> Customisation = FScreenCaptureDetailsCustomisation::MakeInstance();
+
+	EXPECT_DEATH(StaticCastSharedRef<FScreenCaptureDetailsCustomisation>(Customisation)->MakeOptionWidget(nullptr), "StringItem.IsValid\\(\\)");
 }

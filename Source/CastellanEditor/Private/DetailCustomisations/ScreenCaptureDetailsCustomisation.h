@@ -40,7 +40,6 @@ public:
 
 private:
 	TSharedPtr<IPropertyHandle> CaptureTypeProperty;
-	TSharedPtr<IPropertyHandle> SourceNameProperty;
 	uint8 CachedCaptureType = 0;
 	TArray<TSharedPtr<FString>> MonitorOptionList;
 	TArray<TSharedPtr<FString>> WindowOptionList;

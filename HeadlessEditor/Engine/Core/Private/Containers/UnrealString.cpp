@@ -477,12 +477,12 @@ FString UE::Core::Private::FormatV(const TCHAR* Format, va_list Args)
 			Result.AppendChar(*Cursor);
 			continue;
 		}
-		// Collect the conversion spec in narrow form for vsnprintf.
-		std::string Spec = "%";
+		// Collect the conversion specifier in narrow form for vsnprintf.
+		std::string Specifier = "%";
 		++Cursor;
 		while (*Cursor && std::string("-+ #0123456789.").find(static_cast<char>(*Cursor)) != std::string::npos)
 		{
-			Spec.push_back(static_cast<char>(*Cursor++));
+			Specifier.push_back(static_cast<char>(*Cursor++));
 		}
 		std::string Length;
 		while (*Cursor == u'l' || *Cursor == u'h' || *Cursor == u'z' || *Cursor == u'j')
@@ -509,22 +509,22 @@ FString UE::Core::Private::FormatV(const TCHAR* Format, va_list Args)
 			case u'u':
 			case u'x':
 			case u'X':
-				Spec += Length;
-				Spec.push_back(static_cast<char>(Conversion));
+				Specifier += Length;
+				Specifier.push_back(static_cast<char>(Conversion));
 				if (Length == "ll" || Length == "l" || Length == "z" || Length == "j")
 				{
-					Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, long long));
+					Result += FormatWithPrintf(Specifier.c_str(), va_arg(Args, long long));
 				}
 				else
 				{
-					Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, int));
+					Result += FormatWithPrintf(Specifier.c_str(), va_arg(Args, int));
 				}
 				break;
 			case u'f':
 			case u'g':
 			case u'e':
-				Spec.push_back(static_cast<char>(Conversion));
-				Result += FormatWithPrintf(Spec.c_str(), va_arg(Args, double));
+				Specifier.push_back(static_cast<char>(Conversion));
+				Result += FormatWithPrintf(Specifier.c_str(), va_arg(Args, double));
 				break;
 			case u'p':
 				Result += FormatWithPrintf("%p", va_arg(Args, void*));
