@@ -3,6 +3,7 @@
 
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetRegistry/IAssetRegistry.h"
+#include "Factories/Factory.h"
 #include "Misc/PackageName.h"
 #include "Modules/ModuleManager.h"
 #include "Templates/UniquePtr.h"
@@ -71,8 +72,11 @@ namespace
 	public:
 		virtual UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext) override
 		{
-			// Factories are not mirrored: the headless editor creates assets from their class only.
-			if (!ensure(AssetClass))
+			if (!ensure(AssetClass || Factory))
+			{
+				return nullptr;
+			}
+			if (AssetClass && Factory && !ensure(AssetClass->IsChildOf(Factory->GetSupportedClass())))
 			{
 				return nullptr;
 			}
@@ -81,8 +85,12 @@ namespace
 			{
 				return nullptr;
 			}
+			UClass* ClassToUse = AssetClass ? AssetClass : Factory->GetSupportedClass();
 			UPackage* Package = CreatePackage(*PackageName);
-			UObject* NewObj = NewObject<UObject>(Package, AssetClass, FName(*AssetName), RF_Public | RF_Standalone | RF_Transactional);
+			const EObjectFlags Flags = RF_Public | RF_Standalone | RF_Transactional;
+			UObject* NewObj = Factory
+				? Factory->FactoryCreateNew(ClassToUse, Package, FName(*AssetName), Flags, nullptr, nullptr, CallingContext)
+				: NewObject<UObject>(Package, ClassToUse, FName(*AssetName), Flags);
 			if (NewObj)
 			{
 				FAssetRegistryModule::AssetCreated(NewObj);

@@ -23,8 +23,8 @@ public:
 	static IAssetTools& Get();
 
 	/**
-	 * Creates an asset named AssetName in the package PackagePath/AssetName. Without a factory the
-	 * object is made directly from AssetClass. Returns null when the name is invalid or taken.
+	 * Creates an asset named AssetName in the package PackagePath/AssetName through Factory, or
+	 * directly from AssetClass without one. Returns null when the name is invalid or taken.
 	 */
 	virtual UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext = NAME_None) = 0;
 

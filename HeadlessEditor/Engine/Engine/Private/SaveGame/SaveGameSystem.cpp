@@ -39,10 +39,11 @@ namespace
 		void Clear() { Slots.Reset(); }
 
 	private:
-		// Slot names are file names on most platforms; keep them case-sensitive here.
+		// As the engine's generic (desktop) save system: one file per slot name, whatever the user
+		// index, and a Windows file name, so names match ignoring case (as FString keys do).
 		static FString MakeKey(const TCHAR* Name, int32 UserIndex)
 		{
-			return FString::Printf(TEXT("%d/%s"), UserIndex, Name);
+			return FString(Name);
 		}
 
 		TMap<FString, TArray<uint8>> Slots;

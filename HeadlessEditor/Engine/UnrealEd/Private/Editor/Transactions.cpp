@@ -64,6 +64,42 @@ struct FTransaction::FObjectRecord
 	FObjectRecord(const FObjectRecord&) = delete;
 	FObjectRecord& operator=(const FObjectRecord&) = delete;
 
+	/** Whether the object now differs from its saved state; the engine drops transactions where none does. */
+	bool HasChanges() const
+	{
+		const UObject* Target = Object.Get();
+		if (!Target)
+		{
+			return true;
+		}
+		for (const FSavedValue& Value : Values)
+		{
+			for (int32 Element = 0; Element < Value.Property->ArrayDim; ++Element)
+			{
+				const void* Saved = static_cast<const uint8*>(Value.Data) + Element * Value.Property->ElementSize;
+				if (!Value.Property->Identical(Value.Property->ContainerPtrToValuePtr<void>(Target, Element), Saved))
+				{
+					return true;
+				}
+			}
+		}
+		if (const ULevel* Level = Cast<ULevel>(Target))
+		{
+			if (Level->Actors.Num() != LevelActors.Num())
+			{
+				return true;
+			}
+			for (int32 Index = 0; Index < LevelActors.Num(); ++Index)
+			{
+				if (Level->Actors[Index] != LevelActors[Index].Get())
+				{
+					return true;
+				}
+			}
+		}
+		return false;
+	}
+
 	void Restore() const
 	{
 		UObject* Target = Object.Get();
@@ -137,6 +173,18 @@ bool FTransaction::ContainsObject(const UObject* Object) const
 		}
 	}
 	return false;
+}
+
+bool FTransaction::IsTransient() const
+{
+	for (const TUniquePtr<FObjectRecord>& Record : Records)
+	{
+		if (Record->HasChanges())
+		{
+			return false;
+		}
+	}
+	return true;
 }
 
 TArray<AActor*> FTransaction::GetSpawnedActors() const
@@ -217,9 +265,11 @@ int32 UTransBuffer::Begin(const TCHAR* SessionContext, const FText& Description)
 	const int32 Result = ActiveCount;
 	if (ActiveCount++ == 0)
 	{
-		// A new transaction drops the undone ones: they can no longer be redone.
+		// A new transaction sets the undone ones aside: they come back if it is cancelled.
+		PreviousUndoCount = UndoCount;
 		while (UndoCount > 0)
 		{
+			RemovedTransactions.Insert(UndoBuffer.Last(), 0);
 			UndoBuffer.RemoveAt(UndoBuffer.Num() - 1);
 			--UndoCount;
 		}
@@ -231,18 +281,22 @@ int32 UTransBuffer::Begin(const TCHAR* SessionContext, const FText& Description)
 
 int32 UTransBuffer::End()
 {
+	// As the engine: the number of open levels when End was called, so 1 means the transaction closed.
+	const int32 Result = ActiveCount;
 	if (ActiveCount > 0 && --ActiveCount == 0)
 	{
 		GUndo = nullptr;
 		FTransaction& Transaction = UndoBuffer.Last().Get();
 		Transaction.Finalize();
 		// A transaction that changed nothing leaves no undo step.
-		if (Transaction.GetRecordCount() == 0)
+		if (Transaction.IsTransient())
 		{
 			UndoBuffer.RemoveAt(UndoBuffer.Num() - 1);
 		}
+		RemovedTransactions.Reset();
+		PreviousUndoCount = INDEX_NONE;
 	}
-	return ActiveCount;
+	return Result;
 }
 
 void UTransBuffer::Cancel(int32 StartIndex)
@@ -251,16 +305,14 @@ void UTransBuffer::Cancel(int32 StartIndex)
 	{
 		return;
 	}
-	if (StartIndex == 0)
-	{
-		GUndo = nullptr;
-		UndoBuffer.RemoveAt(UndoBuffer.Num() - 1);
-		ActiveCount = 0;
-	}
-	else
-	{
-		ActiveCount = StartIndex;
-	}
+	// As the engine: a partial cancel is not supported and cancels the whole transaction.
+	GUndo = nullptr;
+	UndoBuffer.RemoveAt(UndoBuffer.Num() - 1);
+	UndoBuffer.Append(RemovedTransactions);
+	RemovedTransactions.Reset();
+	UndoCount = PreviousUndoCount;
+	PreviousUndoCount = INDEX_NONE;
+	ActiveCount = 0;
 }
 
 void UTransBuffer::Reset(const FText& Reason)
@@ -313,7 +365,7 @@ bool UEditorEngine::CanTransact()
 
 int32 UEditorEngine::EndTransaction()
 {
-	return Trans ? Trans->End() : 0;
+	return Trans ? Trans->End() : INDEX_NONE;
 }
 
 void UEditorEngine::CancelTransaction(int32 Index)

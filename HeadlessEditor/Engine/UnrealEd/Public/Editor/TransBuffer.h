@@ -27,6 +27,9 @@ public:
 
 private:
 	TArray<TSharedRef<FTransaction>> UndoBuffer;
+	/** The undone transactions a new transaction set aside, restored if it is cancelled. */
+	TArray<TSharedRef<FTransaction>> RemovedTransactions;
 	int32 UndoCount = 0;
+	int32 PreviousUndoCount = INDEX_NONE;
 	int32 ActiveCount = 0;
 };

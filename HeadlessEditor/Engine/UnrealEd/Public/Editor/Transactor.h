@@ -34,6 +34,8 @@ public:
 	FText GetTitle() const { return Title; }
 	const FString& GetContextName() const { return Context; }
 	int32 GetRecordCount() const { return Records.Num(); }
+	/** Whether no recorded object changed, so the transaction leaves no undo step. */
+	bool IsTransient() const;
 	/** The objects this transaction recorded, in the order they were first changed. */
 	void GetTransactionObjects(TArray<UObject*>& Objects) const;
 	bool ContainsObject(const UObject* Object) const;
@@ -66,9 +68,9 @@ public:
 
 	/** Opens a transaction, or joins the open one; returns how many were open before. */
 	virtual int32 Begin(const TCHAR* SessionContext, const FText& Description) PURE_VIRTUAL(UTransactor::Begin, return 0;);
-	/** Closes one level of the open transaction; returns how many stay open. */
+	/** Closes one level of the open transaction; returns how many were open when called (1: it closed). */
 	virtual int32 End() PURE_VIRTUAL(UTransactor::End, return 0;);
-	/** Abandons the open transaction from the level it was at when StartIndex was returned by Begin. */
+	/** Abandons the open transaction entirely (a partial cancel from StartIndex is not supported). */
 	virtual void Cancel(int32 StartIndex = 0) PURE_VIRTUAL(UTransactor::Cancel, );
 	virtual void Reset(const FText& Reason) PURE_VIRTUAL(UTransactor::Reset, );
 	virtual bool IsActive() PURE_VIRTUAL(UTransactor::IsActive, return false;);

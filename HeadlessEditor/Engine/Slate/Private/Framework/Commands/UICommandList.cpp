@@ -32,7 +32,10 @@ void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUIComman
 
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction)
 {
-	check(InUICommandInfo.IsValid());
+	if (!ensure(InUICommandInfo.IsValid()))
+	{
+		return;
+	}
 	UICommandBindingMap.Add(InUICommandInfo, InUIAction);
 }
 
@@ -48,14 +51,21 @@ bool FUICommandList::IsActionMapped(const TSharedPtr<const FUICommandInfo> InUIC
 
 bool FUICommandList::ExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
 {
+	// As the engine: a mapped command counts as handled even when its action cannot run.
 	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
-	return Action && Action->Execute();
+	if (Action)
+	{
+		Action->Execute();
+		return true;
+	}
+	return false;
 }
 
 bool FUICommandList::CanExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
 {
+	// As the engine: without an action (a menu entry whose children do the work) the command can run.
 	const FUIAction* Action = GetActionForCommand(InUICommandInfo);
-	return Action && Action->CanExecute();
+	return Action ? Action->CanExecute() : true;
 }
 
 ECheckBoxState FUICommandList::GetCheckState(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
