@@ -95,43 +95,44 @@ TEST(WizardBadName, ANonLatinNameIsKeptAsTyped)
 	EXPECT_EQ(GetTargetNames().Num(), 2);
 }
 
-TEST(WizardBadName, AThousandCharacterNameFitsTheEngineNameLimit)
+TEST(WizardBadName, AThousandCharacterNameEndsOnTheErrorPageWithNothingBuilt)
 {
+	// Numbered, its package name could pass the engine's name length, which stops the editor.
 	FWizardHarness Harness;
 	const FString Long = FString::ChrN(1000, TEXT('a'));
 
-	Harness.Create(Long, TEXT("Spout"));
+	Harness.Create(Long, TEXT("NDI"));
 
-	EXPECT_TRUE(ReportsSuccess(Harness, Long));
-	EXPECT_EQ(GetTargetNames(), TArray<FString>{Long});
-	EXPECT_TRUE(GetSpoutSenderName(0).Equals(Long));
+	ExpectFailureWithNothingBuilt(Harness);
+	EXPECT_TRUE(Harness.GetDoneText()->GetText().ToString().Contains(Long));
 }
 
-TEST(WizardBadName, AThousandCharacterSpoutNameTypedAgainIsRefusedAsADuplicate)
+TEST(WizardBadName, TheLongestAcceptedNameCanBeCreatedAgainWithANumber)
 {
 	FWizardHarness Harness;
-	const FString Long = FString::ChrN(1000, TEXT('a'));
-	Harness.Create(Long, TEXT("Spout"));
+	const FString FolderPath(TEXT("/Game/LivestreamWizard/"));
+	const FString Longest = FString::ChrN(NAME_SIZE - 11 - FolderPath.Len(), TEXT('a'));
+	Harness.Create(Longest, TEXT("NDI"));
+	ASSERT_TRUE(ReportsSuccess(Harness, Longest));
 	Harness.ClickRestart();
 
-	Harness.Create(Long, TEXT("Spout"));
+	Harness.Create(Longest, TEXT("NDI"));
 
-	EXPECT_TRUE(Harness.IsCreatorPageShown());
-	EXPECT_FALSE(Harness.GetNameWarning()->GetText().IsEmpty());
-	EXPECT_EQ(GetTargetNames().Num(), 1);
+	EXPECT_TRUE(ReportsSuccess(Harness, Longest));
+	const TArray<FString> Names = GetTargetNames();
+	EXPECT_EQ(Names.Num(), 2);
+	EXPECT_TRUE(Names.Contains(Longest));
+	EXPECT_TRUE(Names.Contains(Longest + TEXT("1")));
 }
 
-TEST(WizardBadNameDeathTest, AThousandCharacterNameWithoutSpoutTypedAgainExceedsTheEngineNameLimit)
+TEST(WizardBadName, ANameOneCharacterTooLongForNumberingBuildsNothing)
 {
-	// The unique name grows to 1001 characters and its package name past NAME_SIZE, which the engine's names refuse fatally.
-	EXPECT_DEATH(
-		{
-			FWizardHarness Harness;
-			const FString Long = FString::ChrN(1000, TEXT('a'));
-			Harness.Create(Long, TEXT("NDI"));
-			Harness.PressKeyOnWizard(EKeys::Enter);
-		},
-		"max length exceeded");
+	FWizardHarness Harness;
+	const FString FolderPath(TEXT("/Game/LivestreamWizard/"));
+
+	Harness.Create(FString::ChrN(NAME_SIZE - 10 - FolderPath.Len(), TEXT('a')), TEXT("Spout"));
+
+	ExpectFailureWithNothingBuilt(Harness);
 }
 
 TEST(WizardBadName, ANameEndingInASlashLeavesNoAssetNameAndBuildsNothing)

@@ -30,6 +30,7 @@
 #include "Selection.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/ISlateStyle.h"
+#include "UObject/NameTypes.h"
 #include "UnrealEdGlobals.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
@@ -61,6 +62,17 @@ namespace LivestreamWizard
 				.Text(FText::FromString(Caption))
 			];
 		// clang-format on
+	}
+
+	/**
+	 * Whether the asset tools can make a unique package name from this one: the engine stops the
+	 * editor on a name of NAME_SIZE characters or more, and numbering may add up to ten digits. A
+	 * longer name fails like an asset the tools refuse.
+	 */
+	bool CanNameUniquely(const FString& BasePackageName)
+	{
+		constexpr int32 MaxNumberingDigits = 10;
+		return BasePackageName.Len() + MaxNumberingDigits < NAME_SIZE;
 	}
 
 	/** Outputs go to the world of the first level viewport client (the camera goes to the active one). */
@@ -465,9 +477,15 @@ AActor* SLivestreamWizard::CreateCaptureActor(FString& OutAssetName) const
 		return nullptr;
 	}
 
+	const FString BasePackageName = FString(LivestreamWizard::AssetFolder) + StreamNameTextBox->GetText().ToString();
+	if (!LivestreamWizard::CanNameUniquely(BasePackageName))
+	{
+		return nullptr;
+	}
+
 	IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>(TEXT("AssetTools")).Get();
 	FString PackageName;
-	AssetTools.CreateUniqueAssetName(FString(LivestreamWizard::AssetFolder) + StreamNameTextBox->GetText().ToString(), FString(), PackageName, OutAssetName);
+	AssetTools.CreateUniqueAssetName(BasePackageName, FString(), PackageName, OutAssetName);
 	UTextureRenderTarget2D* RenderTarget = Cast<UTextureRenderTarget2D>(AssetTools.CreateAsset(OutAssetName, LivestreamWizard::AssetFolder, UTextureRenderTarget2D::StaticClass(), nullptr));
 	if (!RenderTarget)
 	{
