@@ -127,12 +127,15 @@ namespace
 		EXPECT_EQ(StartCount, 1);
 	}
 
-	TEST_F(MenuBuilderTests, CommandsMissingFromTheListShowDisabled)
+	TEST_F(MenuBuilderTests, CommandsMissingFromTheListShowEnabledButRunNothing)
 	{
 		FMenuBuilder Builder(true, MakeShared<FUICommandList>());
 		Builder.AddMenuEntry(Commands().Start);
+		const TSharedRef<SWidget> Menu = Builder.MakeWidget();
 
-		EXPECT_FALSE(UE::Headless::ReadMenu(Builder.MakeWidget())[0].bEnabled);
+		EXPECT_TRUE(UE::Headless::ReadMenu(Menu)[0].bEnabled);
+		EXPECT_FALSE(UE::Headless::ClickMenuEntry(Menu, TEXT("Start Stream")));
+		EXPECT_EQ(StartCount, 0);
 	}
 
 	TEST_F(MenuBuilderTests, SectionHeadingAppearsOnlyWithTheSectionsFirstEntry)
