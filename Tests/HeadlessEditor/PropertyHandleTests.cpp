@@ -7,6 +7,7 @@
 #include "Misc/Paths.h"
 #include "PropertyHandle.h"
 #include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
 
 #include <gtest/gtest.h>
 
@@ -80,6 +81,41 @@ namespace
 		EXPECT_EQ(Capture->CaptureFrameRate, 24);
 		EXPECT_EQ(Driver.GetView().GetPropertyHandle(TEXT("CaptureFrameRate"))->SetValueFromFormattedString(TEXT("")), FPropertyAccess::Success);
 		EXPECT_EQ(Capture->CaptureFrameRate, 24);
+	}
+
+	TEST_F(PropertyHandleTests, TypedTextNotifiesWhenItDiffersFromTheValuesTextEvenIfTheValueStays)
+	{
+		UKyroCaptureComponent* Capture = NewObject<UKyroCaptureComponent>(CreatePackage(TEXT("/Game/PropertyHandleProbe")));
+		Capture->bCaptureAlpha = true;
+		Capture->CaptureFrameRate = 30;
+		Capture->GetOutermost()->SetDirtyFlag(false);
+		FDetailsViewDriver Driver({Capture});
+		const TSharedRef<IPropertyHandle> Alpha = Driver.GetView().GetPropertyHandle(TEXT("bCaptureAlpha"));
+		const TSharedRef<IPropertyHandle> FrameRate = Driver.GetView().GetPropertyHandle(TEXT("CaptureFrameRate"));
+		int32 Changes = 0;
+		Alpha->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&Changes]()
+			{ ++Changes; }));
+		FrameRate->SetOnPropertyValueChanged(FSimpleDelegate::CreateLambda([&Changes]()
+			{ ++Changes; }));
+
+		Alpha->SetValueFromFormattedString(TEXT("True"));
+		EXPECT_EQ(Changes, 0) << "The same text as the value's is no change";
+		FrameRate->SetValueFromFormattedString(TEXT("\"30\""));
+		EXPECT_EQ(Changes, 0) << "Quotes around the text are ignored";
+		EXPECT_FALSE(Capture->GetOutermost()->IsDirty());
+
+		Alpha->SetValueFromFormattedString(TEXT("true"));
+		EXPECT_EQ(Changes, 1);
+		FrameRate->SetValueFromFormattedString(TEXT("030"));
+		EXPECT_EQ(Changes, 2);
+		EXPECT_TRUE(Capture->bCaptureAlpha);
+		EXPECT_EQ(Capture->CaptureFrameRate, 30);
+		EXPECT_TRUE(Capture->GetOutermost()->IsDirty()) << "Announcing a change modifies the object before the edit";
+
+		Alpha->SetValue(true);
+		EXPECT_EQ(Changes, 2) << "Typed values notify only on a change";
+		FrameRate->SetValueFromFormattedString(TEXT("31"));
+		EXPECT_EQ(Changes, 3);
 	}
 
 	TEST_F(PropertyHandleTests, IntegerTextReadsTheLeadingDecimalNumber)

@@ -145,7 +145,21 @@ FPropertyAccess::Result FPropertyHandleImpl::GetTypedValue(T& OutValue) const
 	return Result;
 }
 
-FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags)
+namespace
+{
+	/** The engine announces a change when the typed text differs, case and all, from the value's text, even if the value stays. */
+	bool ImportedTextDiffers(const FProperty& Property, const void* Address, const FString& ImportedText)
+	{
+		FString Previous;
+		Property.ExportTextItem_Direct(Previous, Address, nullptr, nullptr, PPF_None);
+		// A leading and a trailing quote are dropped first, each on its own.
+		const int32 Start = ImportedText.StartsWith(TEXT("\""), ESearchCase::CaseSensitive) ? 1 : 0;
+		const int32 End = ImportedText.Len() > 1 && ImportedText.EndsWith(TEXT("\""), ESearchCase::CaseSensitive) ? ImportedText.Len() - 1 : ImportedText.Len();
+		return !ImportedText.Mid(Start, End - Start).Equals(Previous, ESearchCase::CaseSensitive);
+	}
+}
+
+FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags, const FString* ImportedText)
 {
 	const TSharedPtr<FDetailPropertyNode> Pinned = Node.Pin();
 	FProperty* Property = Pinned.IsValid() ? Pinned->GetProperty() : nullptr;
@@ -176,7 +190,8 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 			Result = FPropertyAccess::Fail;
 			break;
 		}
-		if (Property->Identical(NewValue.Get(), Address))
+		const bool bChanged = !Property->Identical(NewValue.Get(), Address);
+		if (!bChanged && !(ImportedText && ImportedTextDiffers(*Property, Address, *ImportedText)))
 		{
 			continue;
 		}
@@ -184,6 +199,10 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 		{
 			bNotifiedPreChange = true;
 			Pinned->NotifyPreChange();
+		}
+		if (!bChanged)
+		{
+			continue;
 		}
 		Property->CopySingleValue(Address, NewValue.Get());
 		Object->MarkPackageDirty();
@@ -240,7 +259,7 @@ FPropertyAccess::Result FPropertyHandleImpl::SetValueFromFormattedString(const F
 		{
 			Property->ImportText_Direct(*InValue, Value, nullptr, PPF_None);
 			return true; },
-		Flags);
+		Flags, &InValue);
 }
 
 // clang-format off
