@@ -316,6 +316,20 @@ namespace
 		EXPECT_FALSE(Item.IsValid());
 	}
 
+	TEST_F(NotificationTests, DurationsSetWhileWaitingToExpireStillCount)
+	{
+		TSharedPtr<SNotificationItem> Pinned = FSlateNotificationManager::Get().AddNotification(MakeInfo(true));
+		const TWeakPtr<SNotificationItem> Item = Pinned;
+		Pinned->SetExpireDuration(5.0f);
+		Pinned.Reset();
+
+		// Fade-in 0.5 s + expire 5 s + fade-out 2 s.
+		UE::Headless::AdvanceNotificationTime(7.3f);
+		EXPECT_TRUE(IsShown(Item));
+		UE::Headless::AdvanceNotificationTime(0.4f);
+		EXPECT_FALSE(IsShown(Item));
+	}
+
 	TEST_F(NotificationTests, FadeoutRemovesAfterTheFadeOutDurationAlone)
 	{
 		TSharedPtr<SNotificationItem> Pinned = FSlateNotificationManager::Get().AddNotification(MakeInfo(false));

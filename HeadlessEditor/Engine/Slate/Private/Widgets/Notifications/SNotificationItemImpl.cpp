@@ -55,9 +55,8 @@ void SNotificationItemImpl::ExpireAndFadeout()
 {
 	if (Phase == EPhase::Shown)
 	{
-		// The wait counts from now and spans the fade-in as well as the expire duration.
 		Phase = EPhase::Expiring;
-		PhaseEndTime = UE::Headless::GetNotificationTime() + FadeInDuration + ExpireDuration;
+		ExpireStartTime = UE::Headless::GetNotificationTime();
 	}
 }
 
@@ -72,10 +71,12 @@ void SNotificationItemImpl::Fadeout()
 
 bool SNotificationItemImpl::Advance(double Now)
 {
-	if (Phase == EPhase::Expiring && Now >= PhaseEndTime)
+	// The wait spans the fade-in as well as the expire duration, both read as they are now, as the engine's tick does.
+	const double ExpireEndTime = ExpireStartTime + FadeInDuration + ExpireDuration;
+	if (Phase == EPhase::Expiring && Now >= ExpireEndTime)
 	{
 		Phase = EPhase::FadingOut;
-		PhaseEndTime += FadeOutDuration;
+		PhaseEndTime = ExpireEndTime + FadeOutDuration;
 	}
 	if (Phase == EPhase::FadingOut && Now >= PhaseEndTime)
 	{
