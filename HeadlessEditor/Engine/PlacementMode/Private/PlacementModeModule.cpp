@@ -48,8 +48,9 @@ namespace
 
 		virtual TOptional<FPlacementModeID> RegisterPlaceableItem(FName CategoryName, const TSharedRef<FPlaceableItem>& Item) override
 		{
+			// A category drawn by its own generator takes no items.
 			FCategory* Category = FindCategory(CategoryName);
-			if (!Category)
+			if (!Category || Category->Info.CustomGenerator)
 			{
 				return TOptional<FPlacementModeID>();
 			}
@@ -71,7 +72,6 @@ namespace
 
 		virtual void GetItemsForCategory(FName CategoryName, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const override
 		{
-			OutItems.Reset();
 			if (const FCategory* Category = FindCategory(CategoryName))
 			{
 				for (const FItem& Item : Category->Items)

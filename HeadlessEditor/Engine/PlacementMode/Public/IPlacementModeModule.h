@@ -5,7 +5,9 @@
 #include "Editor.h"
 #include "Modules/ModuleInterface.h"
 #include "Modules/ModuleManager.h"
+#include "Templates/Casts.h"
 #include "Textures/SlateIcon.h"
+#include "UObject/Class.h"
 
 class SWidget;
 class UActorFactory;
@@ -60,11 +62,20 @@ struct FPlaceableItem
 		AutoSetNativeAndDisplayName();
 	}
 
-	/** Names the item after its asset; the engine's display name logic for static meshes is not mirrored. */
+	/** Names the item after its class when the asset is a class, otherwise after the asset (the headless engine has no volumes or shapes). */
 	void AutoSetNativeAndDisplayName()
 	{
-		NativeName = AssetData.AssetName.ToString();
-		DisplayName = FText::FromName(AssetData.AssetName);
+		UClass* Class = AssetData.GetClass() == UClass::StaticClass() ? Cast<UClass>(AssetData.GetAsset()) : nullptr;
+		if (Class)
+		{
+			Class->GetName(NativeName);
+			DisplayName = Class->GetDisplayNameText();
+		}
+		else
+		{
+			NativeName = AssetData.AssetName.ToString();
+			DisplayName = FText::FromName(AssetData.AssetName);
+		}
 	}
 
 	UActorFactory* Factory;
@@ -111,6 +122,6 @@ public:
 	/** Adds an item to a category. @return its identifier, or nothing if the category does not exist. */
 	virtual TOptional<FPlacementModeID> RegisterPlaceableItem(FName CategoryName, const TSharedRef<FPlaceableItem>& Item) = 0;
 	virtual void UnregisterPlaceableItem(FPlacementModeID ID) = 0;
-	/** The items of a category, in registration order. */
+	/** Appends the items of a category, in registration order. */
 	virtual void GetItemsForCategory(FName Category, TArray<TSharedPtr<FPlaceableItem>>& OutItems) const = 0;
 };

@@ -145,7 +145,21 @@ FPropertyAccess::Result FPropertyHandleImpl::GetTypedValue(T& OutValue) const
 	return Result;
 }
 
-FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags)
+namespace
+{
+	/** The engine announces a change when the typed text differs, case and all, from the value's text, even if the value stays. */
+	bool ImportedTextDiffers(const FProperty& Property, const void* Address, const FString& ImportedText)
+	{
+		FString Previous;
+		Property.ExportTextItem_Direct(Previous, Address, nullptr, nullptr, PPF_None);
+		// A leading and a trailing quote are dropped first, each on its own.
+		const int32 Start = ImportedText.StartsWith(TEXT("\""), ESearchCase::CaseSensitive) ? 1 : 0;
+		const int32 End = ImportedText.Len() > 1 && ImportedText.EndsWith(TEXT("\""), ESearchCase::CaseSensitive) ? ImportedText.Len() - 1 : ImportedText.Len();
+		return !ImportedText.Mid(Start, End - Start).Equals(Previous, ESearchCase::CaseSensitive);
+	}
+}
+
+FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags, const FString* ImportedText)
 {
 	const TSharedPtr<FDetailPropertyNode> Pinned = Node.Pin();
 	FProperty* Property = Pinned.IsValid() ? Pinned->GetProperty() : nullptr;
@@ -176,7 +190,8 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 			Result = FPropertyAccess::Fail;
 			break;
 		}
-		if (Property->Identical(NewValue.Get(), Address))
+		const bool bChanged = !Property->Identical(NewValue.Get(), Address);
+		if (!bChanged && !(ImportedText && ImportedTextDiffers(*Property, Address, *ImportedText)))
 		{
 			continue;
 		}
@@ -184,6 +199,10 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 		{
 			bNotifiedPreChange = true;
 			Pinned->NotifyPreChange();
+		}
+		if (!bChanged)
+		{
+			continue;
 		}
 		Property->CopySingleValue(Address, NewValue.Get());
 		Object->MarkPackageDirty();
@@ -230,9 +249,17 @@ FPropertyAccess::Result FPropertyHandleImpl::GetValueAsFormattedString(FString& 
 FPropertyAccess::Result FPropertyHandleImpl::SetValueFromFormattedString(const FString& InValue, EPropertyValueSetFlags::Type Flags)
 {
 	const FProperty* Property = GetProperty();
+	// Names and object paths too long for a name are refused before anything is written.
+	if ((CastField<FNameProperty>(Property) || CastField<FObjectProperty>(Property)) && InValue.Len() >= NAME_SIZE)
+	{
+		return FPropertyAccess::Fail;
+	}
+	// Text that does not import leaves the value as it was; the engine does not count that as a failure.
 	return WriteValues([Property, &InValue](void* Value)
-		{ return Property->ImportText_Direct(*InValue, Value, nullptr, PPF_None) != nullptr; },
-		Flags);
+		{
+			Property->ImportText_Direct(*InValue, Value, nullptr, PPF_None);
+			return true; },
+		Flags, &InValue);
 }
 
 // clang-format off

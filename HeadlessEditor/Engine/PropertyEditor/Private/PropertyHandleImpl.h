@@ -94,9 +94,10 @@ private:
 	FPropertyAccess::Result GetReadAddress(uint8*& OutAddress) const;
 	/**
 	 * Writes each object's value through Apply on a copy; only a real change notifies (pre-change
-	 * once, the write, then post-change), as the engine's property editor does.
+	 * once, the write, then post-change), as the engine's property editor does. Text imports also
+	 * notify when ImportedText differs from the value's text.
 	 */
-	FPropertyAccess::Result WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags);
+	FPropertyAccess::Result WriteValues(TFunctionRef<bool(void* Value)> Apply, EPropertyValueSetFlags::Type Flags, const FString* ImportedText = nullptr);
 
 	TWeakPtr<FDetailPropertyNode> Node;
 };

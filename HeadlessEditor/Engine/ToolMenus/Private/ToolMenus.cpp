@@ -55,12 +55,16 @@ FToolMenuEntry FToolMenuEntry::InitComboButton(const FName InName, const FToolUI
 
 FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)
 {
-	FToolMenuEntry& Entry = Blocks.Add_GetRef(Args);
-	if (!Entry.Owner.IsSet())
+	// The entry keeps the owner it was made with; a named entry replaces the one of the same name.
+	if (Args.Name != NAME_None)
 	{
-		Entry.Owner = UToolMenus::Get()->CurrentOwner();
+		if (FToolMenuEntry* Existing = FindEntry(Args.Name))
+		{
+			*Existing = Args;
+			return *Existing;
+		}
 	}
-	return Entry;
+	return Blocks.Add_GetRef(Args);
 }
 
 FToolMenuEntry* FToolMenuSection::FindEntry(const FName InName)
@@ -82,7 +86,8 @@ FToolMenuSection& UToolMenu::FindOrAddSection(const FName SectionName)
 
 FToolMenuSection& UToolMenu::AddSection(const FName SectionName, const TAttribute<FText>& InLabel)
 {
-	if (FToolMenuSection* Existing = FindSection(SectionName))
+	// Unnamed sections are never merged.
+	if (FToolMenuSection* Existing = SectionName != NAME_None ? FindSection(SectionName) : nullptr)
 	{
 		if (InLabel.IsSet())
 		{
@@ -107,8 +112,9 @@ UToolMenus::UToolMenus() = default;
 
 UToolMenus* UToolMenus::Get()
 {
-	if (!GToolMenusSingleton && IToolMenusModule::IsAvailable())
+	if (!GToolMenusSingleton)
 	{
+		FModuleManager::LoadModuleChecked<IToolMenusModule>(TEXT("ToolMenus"));
 		GToolMenusSingleton = NewObject<UToolMenus>(GetTransientPackage());
 	}
 	return GToolMenusSingleton;

@@ -144,23 +144,28 @@ void FUObjectRegistry::SetEnumNames(UEnum* Enum, UEnum::ECppForm Form, const TAr
 	Enum->Names.Add(TPair<FName, int64>(FName(*(Prefix + Enum->GetName() + TEXT("_MAX"))), MaxValue + 1));
 }
 
-#define IMPLEMENT_INTRINSIC_CLASS(TClass, TSuperClassExpr, TFlags)                                                                                                                                                            \
-	UObject* TClass::__NewInstance(const FObjectInitializer& ObjectInitializer)                                                                                                                                               \
-	{                                                                                                                                                                                                                         \
-		return new TClass();                                                                                                                                                                                                  \
-	}                                                                                                                                                                                                                         \
-	UClass* TClass::StaticClass()                                                                                                                                                                                             \
-	{                                                                                                                                                                                                                         \
-		static UClass* Class = nullptr;                                                                                                                                                                                       \
-		if (!Class)                                                                                                                                                                                                           \
-		{                                                                                                                                                                                                                     \
-			UE::CoreUObject::Private::ConstructNativeClass(Class, &TEXT(#TClass)[1], TEXT("/Script/CoreUObject"), TSuperClassExpr, sizeof(TClass), EClassFlags(TFlags | CLASS_Intrinsic), NAME_None, &TClass::__NewInstance); \
-		}                                                                                                                                                                                                                     \
-		return Class;                                                                                                                                                                                                         \
-	}                                                                                                                                                                                                                         \
-	UClass* Z_Construct_UClass_##TClass##_NoRegister()                                                                                                                                                                        \
-	{                                                                                                                                                                                                                         \
-		return TClass::StaticClass();                                                                                                                                                                                         \
+#define IMPLEMENT_INTRINSIC_CLASS(TClass, TSuperClassExpr, TFlags)                                                                                                                                                           \
+	UObject* TClass::__NewInstance(const FObjectInitializer& ObjectInitializer)                                                                                                                                              \
+	{                                                                                                                                                                                                                        \
+		return new TClass();                                                                                                                                                                                                 \
+	}                                                                                                                                                                                                                        \
+	UClass* TClass::StaticClass()                                                                                                                                                                                            \
+	{                                                                                                                                                                                                                        \
+		static UClass* Class = nullptr;                                                                                                                                                                                      \
+		if (!Class)                                                                                                                                                                                                          \
+		{                                                                                                                                                                                                                    \
+			/* Making the super class makes the class of classes, which may be this one: make only one. */                                                                                                                   \
+			UClass* SuperClass = TSuperClassExpr;                                                                                                                                                                            \
+			if (!Class)                                                                                                                                                                                                      \
+			{                                                                                                                                                                                                                \
+				UE::CoreUObject::Private::ConstructNativeClass(Class, &TEXT(#TClass)[1], TEXT("/Script/CoreUObject"), SuperClass, sizeof(TClass), EClassFlags(TFlags | CLASS_Intrinsic), NAME_None, &TClass::__NewInstance); \
+			}                                                                                                                                                                                                                \
+		}                                                                                                                                                                                                                    \
+		return Class;                                                                                                                                                                                                        \
+	}                                                                                                                                                                                                                        \
+	UClass* Z_Construct_UClass_##TClass##_NoRegister()                                                                                                                                                                       \
+	{                                                                                                                                                                                                                        \
+		return TClass::StaticClass();                                                                                                                                                                                        \
 	}
 
 IMPLEMENT_INTRINSIC_CLASS(UObject, nullptr, CLASS_None)

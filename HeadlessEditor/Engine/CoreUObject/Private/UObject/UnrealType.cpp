@@ -67,30 +67,89 @@ namespace
 		return Result + TEXT("\"");
 	}
 
+	bool IsDigitChar(TCHAR Ch)
+	{
+		return Ch >= TEXT('0') && Ch <= TEXT('9');
+	}
+
+	bool IsHexDigitChar(TCHAR Ch)
+	{
+		return IsDigitChar(Ch) || (Ch >= TEXT('a') && Ch <= TEXT('f')) || (Ch >= TEXT('A') && Ch <= TEXT('F'));
+	}
+
+	bool IsAlphaChar(TCHAR Ch)
+	{
+		return (Ch >= TEXT('a') && Ch <= TEXT('z')) || (Ch >= TEXT('A') && Ch <= TEXT('Z'));
+	}
+
+	/**
+	 * Reads a number as the engine does: an integer needs a leading digit or sign (a leading letter would name an
+	 * enumerator), a floating-point value takes whatever number leads the text, 0 if none. The value is the
+	 * leading number in base 10, except that unsigned 64-bit values also read hexadecimal.
+	 */
 	template <typename T>
 	const TCHAR* ImportNumber(const TCHAR* Buffer, void* Data, int32 PortFlags)
 	{
-		FString Token;
-		const TCHAR* End = ReadToken(Buffer, Token, (PortFlags & PPF_Delimited) != 0);
-		const std::string Utf8 = Token.TrimStartAndEnd().ToUtf8();
-		if (Utf8.empty() || !End)
+		if (PortFlags & PPF_Delimited)
 		{
-			return nullptr;
+			Buffer = SkipSpaces(Buffer);
 		}
-		char* Stop = nullptr;
-		if constexpr (std::is_floating_point_v<T>)
+		const TCHAR* Start = Buffer;
+		if constexpr (std::is_integral_v<T>)
 		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtod(Utf8.c_str(), &Stop));
-		}
-		else if constexpr (std::is_signed_v<T>)
-		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtoll(Utf8.c_str(), &Stop, 0));
+			if (IsAlphaChar(*Buffer))
+			{
+				return nullptr;
+			}
+			if (Buffer[0] == TEXT('0') && (Buffer[1] == TEXT('x') || Buffer[1] == TEXT('X')))
+			{
+				Buffer += 2;
+				while (IsHexDigitChar(*Buffer))
+				{
+					++Buffer;
+				}
+			}
+			else
+			{
+				while (*Buffer == TEXT('-') || *Buffer == TEXT('+'))
+				{
+					++Buffer;
+				}
+				while (IsDigitChar(*Buffer))
+				{
+					++Buffer;
+				}
+			}
+			if (Buffer == Start)
+			{
+				return nullptr;
+			}
 		}
 		else
 		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtoull(Utf8.c_str(), &Stop, 0));
+			while (*Buffer == TEXT('+') || *Buffer == TEXT('-') || *Buffer == TEXT('.') || IsDigitChar(*Buffer))
+			{
+				++Buffer;
+			}
+			if (*Buffer == TEXT('f') || *Buffer == TEXT('F'))
+			{
+				++Buffer;
+			}
 		}
-		return Stop && *Stop == 0 ? End : nullptr;
+		const std::string Utf8 = FString(Start).ToUtf8();
+		if constexpr (std::is_floating_point_v<T>)
+		{
+			*static_cast<T*>(Data) = static_cast<T>(std::strtod(Utf8.c_str(), nullptr));
+		}
+		else if constexpr (std::is_same_v<T, uint64>)
+		{
+			*static_cast<T*>(Data) = static_cast<T>(std::strtoull(Utf8.c_str(), nullptr, 0));
+		}
+		else
+		{
+			*static_cast<T*>(Data) = static_cast<T>(std::strtoll(Utf8.c_str(), nullptr, 10));
+		}
+		return Buffer;
 	}
 }
 
@@ -267,6 +326,13 @@ void FNameProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 
 const TCHAR* FNameProperty::ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const
 {
+	// Undelimited, the whole text is the name, as typed.
+	if (!(PortFlags & PPF_Delimited))
+	{
+		const FString Text(Buffer);
+		SetPropertyValue(Data, Text == TEXT("None") ? FName() : FName(*Text));
+		return Buffer + Text.Len();
+	}
 	FString Token;
 	const TCHAR* End = ReadToken(Buffer, Token, (PortFlags & PPF_Delimited) != 0);
 	if (End)

@@ -42,7 +42,8 @@ namespace
 			Line.Icon = Entry.IconOverride;
 		}
 		const FUIAction* Action = FindAction(Entry);
-		Line.bEnabled = Action && Action->CanExecute();
+		// As the engine's menu entry: a command asks its list, which enables commands it has no action for.
+		Line.bEnabled = Command.IsValid() && Entry.GetActionList().IsValid() ? Entry.GetActionList()->CanExecuteAction(Command.ToSharedRef()) : Entry.GetDirectActions()->CanExecute();
 		Line.CheckState = Action ? Action->GetCheckState() : ECheckBoxState::Unchecked;
 		return Line;
 	}

@@ -56,7 +56,7 @@ void SNotificationItemImpl::ExpireAndFadeout()
 	if (Phase == EPhase::Shown)
 	{
 		Phase = EPhase::Expiring;
-		PhaseEndTime = UE::Headless::GetNotificationTime() + ExpireDuration;
+		ExpireStartTime = UE::Headless::GetNotificationTime();
 	}
 }
 
@@ -71,10 +71,12 @@ void SNotificationItemImpl::Fadeout()
 
 bool SNotificationItemImpl::Advance(double Now)
 {
-	if (Phase == EPhase::Expiring && Now >= PhaseEndTime)
+	// The wait spans the fade-in as well as the expire duration, both read as they are now, as the engine's tick does.
+	const double ExpireEndTime = ExpireStartTime + FadeInDuration + ExpireDuration;
+	if (Phase == EPhase::Expiring && Now >= ExpireEndTime)
 	{
 		Phase = EPhase::FadingOut;
-		PhaseEndTime += FadeOutDuration;
+		PhaseEndTime = ExpireEndTime + FadeOutDuration;
 	}
 	if (Phase == EPhase::FadingOut && Now >= PhaseEndTime)
 	{

@@ -64,5 +64,6 @@ private:
 	bool bFireAndForget = true;
 	ECompletionState CompletionState = CS_None;
 	EPhase Phase = EPhase::Shown;
+	double ExpireStartTime = 0.0;
 	double PhaseEndTime = 0.0;
 };

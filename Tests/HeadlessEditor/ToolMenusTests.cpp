@@ -1,0 +1,366 @@
+#include "Framework/Application/SlateApplication.h"
+#include "Misc/CoreDelegates.h"
+#include "Modules/ModuleManager.h"
+#include "ToolMenus.h"
+
+#include <gtest/gtest.h>
+
+#define LOCTEXT_NAMESPACE "ToolMenusTests"
+
+namespace
+{
+	/** Something that registers menus at start-up, as an editor module does. */
+	struct FMenuRegistrant
+	{
+		void RegisterMenus() { ++Calls; }
+
+		FSimpleMulticastDelegate::FDelegate MakeCallback() { return FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FMenuRegistrant::RegisterMenus); }
+
+		int32 Calls = 0;
+	};
+
+	const FName ToolMenusModuleName(TEXT("ToolMenus"));
+
+	class ToolMenusTests : public ::testing::Test
+	{
+	protected:
+		virtual void TearDown() override
+		{
+			UToolMenus::UnRegisterStartupCallback(&First);
+			UToolMenus::UnRegisterStartupCallback(&Second);
+			FModuleManager::Get().UnloadModule(ToolMenusModuleName);
+			if (FSlateApplication::IsInitialized())
+			{
+				FSlateApplication::Shutdown();
+			}
+		}
+
+		static void StartSlateAndMenus()
+		{
+			FSlateApplication::Create();
+			FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+		}
+
+		FMenuRegistrant First;
+		FMenuRegistrant Second;
+	};
+
+	TEST_F(ToolMenusTests, StartupCallbackRunsAtOnceWhenSlateAndMenusAreUp)
+	{
+		StartSlateAndMenus();
+
+		const FDelegateHandle Handle = UToolMenus::RegisterStartupCallback(First.MakeCallback());
+
+		EXPECT_EQ(First.Calls, 1);
+		EXPECT_FALSE(Handle.IsValid()) << "A callback that already ran is not kept, so there is nothing to unregister";
+		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First));
+	}
+
+	TEST_F(ToolMenusTests, StartupCallbackWithoutSlateWaitsForPostEngineInitAndRunsOnce)
+	{
+		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+
+		const FDelegateHandle Handle = UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		EXPECT_TRUE(Handle.IsValid());
+		EXPECT_EQ(First.Calls, 0);
+		EXPECT_TRUE(UToolMenus::HasStartupCallbackFor(&First));
+
+		FSlateApplication::Create();
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 1);
+		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First)) << "Deferred callbacks are cleared once they ran";
+
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 1);
+	}
+
+	TEST_F(ToolMenusTests, StartupCallbackWaitsWhileTheMenusModuleIsNotLoaded)
+	{
+		FSlateApplication::Create();
+
+		UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		EXPECT_EQ(First.Calls, 0) << "Registering must not load the menus module";
+		EXPECT_FALSE(IToolMenusModule::IsAvailable());
+
+		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 1);
+	}
+
+	TEST_F(ToolMenusTests, PostEngineInitWithoutSlateKeepsTheCallbacksWaiting)
+	{
+		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+		UToolMenus::RegisterStartupCallback(First.MakeCallback());
+
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+
+		EXPECT_EQ(First.Calls, 0);
+		EXPECT_TRUE(UToolMenus::HasStartupCallbackFor(&First));
+	}
+
+	TEST_F(ToolMenusTests, UnRegisterStartupCallbackByPointerRemovesOnlyThatObjectsCallbacks)
+	{
+		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+		UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		UToolMenus::RegisterStartupCallback(Second.MakeCallback());
+
+		UToolMenus::UnRegisterStartupCallback(&First);
+
+		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First));
+		FSlateApplication::Create();
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 0);
+		EXPECT_EQ(Second.Calls, 1);
+	}
+
+	TEST_F(ToolMenusTests, UnRegisterStartupCallbackByHandleRemovesOnlyThatCallback)
+	{
+		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
+		const FDelegateHandle FirstHandle = UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		UToolMenus::RegisterStartupCallback(First.MakeCallback());
+		UToolMenus::RegisterStartupCallback(Second.MakeCallback());
+
+		UToolMenus::UnRegisterStartupCallback(FirstHandle);
+
+		FSlateApplication::Create();
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 1) << "The second registration of the same object is a separate callback";
+		EXPECT_EQ(Second.Calls, 1);
+	}
+
+	TEST_F(ToolMenusTests, GetLoadsTheMenusModuleButTryGetAndUnregisterOwnerDoNot)
+	{
+		EXPECT_EQ(UToolMenus::TryGet(), nullptr);
+		UToolMenus::UnregisterOwner(&First);
+		EXPECT_FALSE(IToolMenusModule::IsAvailable());
+
+		UToolMenus* ToolMenus = UToolMenus::Get();
+
+		ASSERT_NE(ToolMenus, nullptr);
+		EXPECT_TRUE(IToolMenusModule::IsAvailable());
+		EXPECT_EQ(UToolMenus::TryGet(), ToolMenus);
+	}
+
+	TEST(ToolMenuOwnerTests, NameOwnersCompareByNameIgnoringCaseAndDifferFromPointerOwners)
+	{
+		int32 Object = 0;
+		const FToolMenuOwner NamedOwner(TEXT("CastellanProbe"));
+
+		EXPECT_TRUE(NamedOwner.IsSet());
+		EXPECT_EQ(NamedOwner, FToolMenuOwner(FName(TEXT("castellanprobe"))));
+		EXPECT_EQ(NamedOwner, FToolMenuOwner("CastellanProbe"));
+		EXPECT_NE(NamedOwner, FToolMenuOwner(TEXT("OtherProbe")));
+		EXPECT_EQ(NamedOwner.TryGetName(), FName(TEXT("CastellanProbe")));
+
+		const FToolMenuOwner PointerOwner(&Object);
+		EXPECT_TRUE(PointerOwner.IsSet());
+		EXPECT_EQ(PointerOwner, FToolMenuOwner(&Object));
+		EXPECT_NE(PointerOwner, NamedOwner);
+		EXPECT_EQ(PointerOwner.TryGetName(), NAME_None);
+
+		EXPECT_FALSE(FToolMenuOwner(NAME_None).IsSet());
+		EXPECT_EQ(FToolMenuOwner(NAME_None), FToolMenuOwner());
+		EXPECT_FALSE(FToolMenuOwner(static_cast<void*>(nullptr)).IsSet());
+	}
+
+	class ToolMenuContentTests : public ToolMenusTests
+	{
+	protected:
+		virtual void SetUp() override
+		{
+			StartSlateAndMenus();
+			Menu = UToolMenus::Get()->ExtendMenu(TEXT("LevelEditor.LevelEditorToolBar.User"));
+		}
+
+		static FToolMenuEntry MakeEntry(const TCHAR* Name) { return FToolMenuEntry::InitComboButton(Name, FUIAction(), FNewToolMenuChoice()); }
+
+		static TArray<FName> EntryNames(const FToolMenuSection& Section)
+		{
+			TArray<FName> Names;
+			for (const FToolMenuEntry& Entry : Section.Blocks)
+			{
+				Names.Add(Entry.Name);
+			}
+			return Names;
+		}
+
+		UToolMenu* Menu = nullptr;
+	};
+
+	TEST_F(ToolMenuContentTests, UnregisterOwnerRemovesOnlyThatOwnersEntriesAndEmptiedSections)
+	{
+		{
+			FToolMenuOwnerScoped Scope(&First);
+			Menu->FindOrAddSection(TEXT("Shared")).AddEntry(MakeEntry(TEXT("FirstInShared")));
+			Menu->FindOrAddSection(TEXT("FirstOnly")).AddEntry(MakeEntry(TEXT("FirstAlone")));
+		}
+		{
+			FToolMenuOwnerScoped Scope(&Second);
+			Menu->FindOrAddSection(TEXT("Shared")).AddEntry(MakeEntry(TEXT("SecondInShared")));
+			Menu->AddSection(TEXT("SecondEmpty"));
+		}
+
+		UToolMenus::UnregisterOwner(&First);
+
+		ASSERT_NE(Menu->FindSection(TEXT("Shared")), nullptr) << "A section keeps living while other owners' entries are in it";
+		EXPECT_EQ(EntryNames(*Menu->FindSection(TEXT("Shared"))), TArray<FName>({TEXT("SecondInShared")}));
+		EXPECT_EQ(Menu->FindSection(TEXT("FirstOnly")), nullptr);
+		EXPECT_NE(Menu->FindSection(TEXT("SecondEmpty")), nullptr) << "Only the unregistered owner's empty sections go";
+	}
+
+	TEST_F(ToolMenuContentTests, UnregisterOwnerByNameLeavesPointerOwnedEntries)
+	{
+		{
+			FToolMenuOwnerScoped Scope(TEXT("NamedProbe"));
+			Menu->FindOrAddSection(TEXT("Content")).AddEntry(MakeEntry(TEXT("Named")));
+		}
+		{
+			FToolMenuOwnerScoped Scope(&First);
+			Menu->FindOrAddSection(TEXT("Content")).AddEntry(MakeEntry(TEXT("Pointer")));
+		}
+
+		UToolMenus::UnregisterOwner(FToolMenuOwner(TEXT("namedprobe")));
+
+		EXPECT_EQ(EntryNames(*Menu->FindSection(TEXT("Content"))), TArray<FName>({TEXT("Pointer")}));
+	}
+
+	TEST_F(ToolMenuContentTests, UnregisteringTheUnsetOwnerRemovesNothing)
+	{
+		Menu->FindOrAddSection(TEXT("Unowned")).AddEntry(MakeEntry(TEXT("Loose")));
+
+		UToolMenus::UnregisterOwner(FToolMenuOwner());
+
+		ASSERT_NE(Menu->FindSection(TEXT("Unowned")), nullptr);
+		EXPECT_EQ(EntryNames(*Menu->FindSection(TEXT("Unowned"))), TArray<FName>({TEXT("Loose")}));
+	}
+
+	TEST_F(ToolMenuContentTests, AddEntryKeepsTheOwnerTheEntryWasMadeWith)
+	{
+		const FToolMenuEntry MadeOutsideAnyScope = MakeEntry(TEXT("Outside"));
+		{
+			FToolMenuOwnerScoped Scope(&First);
+			Menu->FindOrAddSection(TEXT("Content")).AddEntry(MadeOutsideAnyScope);
+		}
+
+		EXPECT_FALSE(Menu->FindSection(TEXT("Content"))->FindEntry(TEXT("Outside"))->Owner.IsSet());
+		UToolMenus::UnregisterOwner(&First);
+		EXPECT_NE(Menu->FindSection(TEXT("Content"))->FindEntry(TEXT("Outside")), nullptr);
+	}
+
+	TEST_F(ToolMenuContentTests, AddEntryWithATakenNameReplacesThatEntryInPlace)
+	{
+		FToolMenuSection& Section = Menu->FindOrAddSection(TEXT("Content"));
+		Section.AddEntry(MakeEntry(TEXT("Alpha")));
+		Section.AddEntry(MakeEntry(TEXT("Beta")));
+
+		FToolMenuEntry Replacement = MakeEntry(TEXT("Alpha"));
+		Replacement.Label = LOCTEXT("Replaced", "Replaced");
+		Section.AddEntry(Replacement);
+
+		EXPECT_EQ(EntryNames(Section), TArray<FName>({TEXT("Alpha"), TEXT("Beta")}));
+		EXPECT_EQ(Section.Blocks[0].Label.Get().ToString(), TEXT("Replaced"));
+	}
+
+	TEST_F(ToolMenuContentTests, UnnamedEntriesAreAlwaysAppended)
+	{
+		FToolMenuSection& Section = Menu->FindOrAddSection(TEXT("Content"));
+		Section.AddEntry(MakeEntry(TEXT("")));
+		Section.AddEntry(MakeEntry(TEXT("")));
+
+		EXPECT_EQ(Section.Blocks.Num(), 2);
+	}
+
+	TEST_F(ToolMenuContentTests, FindOrAddSectionReturnsTheExistingSection)
+	{
+		FToolMenuSection& Added = Menu->FindOrAddSection(TEXT("Content"));
+		Added.AddEntry(MakeEntry(TEXT("Kept")));
+
+		FToolMenuSection& Found = Menu->FindOrAddSection(TEXT("content"));
+
+		EXPECT_EQ(&Found, Menu->FindSection(TEXT("Content")));
+		EXPECT_EQ(Menu->Sections.Num(), 1);
+		EXPECT_EQ(Found.Blocks.Num(), 1);
+	}
+
+	TEST_F(ToolMenuContentTests, AddSectionWithAnExistingNameChangesTheLabelOnlyWhenOneIsGiven)
+	{
+		Menu->AddSection(TEXT("Content"), LOCTEXT("Original", "Original"));
+
+		Menu->AddSection(TEXT("Content"));
+		EXPECT_EQ(Menu->FindSection(TEXT("Content"))->Label.Get().ToString(), TEXT("Original"));
+
+		Menu->AddSection(TEXT("Content"), LOCTEXT("Renamed", "Renamed"));
+		EXPECT_EQ(Menu->FindSection(TEXT("Content"))->Label.Get().ToString(), TEXT("Renamed"));
+		EXPECT_EQ(Menu->Sections.Num(), 1);
+	}
+
+	TEST_F(ToolMenuContentTests, UnnamedSectionsAreNeverMerged)
+	{
+		Menu->AddSection(NAME_None);
+		Menu->AddSection(NAME_None);
+
+		EXPECT_EQ(Menu->Sections.Num(), 2);
+	}
+
+	TEST_F(ToolMenuContentTests, SectionsBelongToTheOwnerCurrentWhenTheyWereAdded)
+	{
+		{
+			FToolMenuOwnerScoped Scope(&First);
+			Menu->AddSection(TEXT("Owned"));
+		}
+		Menu->AddSection(TEXT("Unowned"));
+
+		EXPECT_EQ(Menu->FindSection(TEXT("Owned"))->Owner, FToolMenuOwner(&First));
+		EXPECT_FALSE(Menu->FindSection(TEXT("Unowned"))->Owner.IsSet());
+	}
+
+	TEST_F(ToolMenuContentTests, InitComboButtonFillsTheToolbarComboFields)
+	{
+		bool bMenuMade = false;
+		const FNewToolMenuChoice Generator(FNewToolMenuDelegate::CreateLambda([&bMenuMade](UToolMenu*)
+			{ bMenuMade = true; }));
+		bool bExecuted = false;
+		const FUIAction Action(FExecuteAction::CreateLambda([&bExecuted]()
+			{ bExecuted = true; }));
+		const FSlateIcon Icon(TEXT("ProbeStyle"), TEXT("Probe.Icon"));
+
+		FToolMenuOwnerScoped Scope(&First);
+		const FToolMenuEntry Entry = FToolMenuEntry::InitComboButton(TEXT("Combo"), Action, Generator, LOCTEXT("ComboLabel", "Go Live"), LOCTEXT("ComboTip", "Start streaming"), Icon, true, TEXT("ComboHighlight"));
+
+		EXPECT_EQ(Entry.Name, FName(TEXT("Combo")));
+		EXPECT_EQ(Entry.Type, EMultiBlockType::ToolBarComboButton);
+		EXPECT_EQ(Entry.Owner, FToolMenuOwner(&First));
+		EXPECT_EQ(Entry.Label.Get().ToString(), TEXT("Go Live"));
+		EXPECT_EQ(Entry.ToolTip.Get().ToString(), TEXT("Start streaming"));
+		EXPECT_EQ(Entry.Icon.Get().GetStyleName(), FName(TEXT("Probe.Icon")));
+		EXPECT_TRUE(Entry.ToolBarData.bSimpleComboBox);
+		EXPECT_EQ(Entry.TutorialHighlightName, FName(TEXT("ComboHighlight")));
+
+		ASSERT_NE(Entry.GetActionChoice().GetUIAction(), nullptr);
+		Entry.GetActionChoice().GetUIAction()->Execute();
+		EXPECT_TRUE(bExecuted);
+		Entry.ToolBarData.ComboButtonContextMenuGenerator.NewToolMenu.ExecuteIfBound(nullptr);
+		EXPECT_TRUE(bMenuMade);
+	}
+
+	TEST_F(ToolMenuContentTests, InitComboButtonLeavesOverridesUnsetByDefault)
+	{
+		const FToolMenuEntry Entry = MakeEntry(TEXT("Plain"));
+
+		EXPECT_FALSE(Entry.Label.IsSet());
+		EXPECT_FALSE(Entry.ToolTip.IsSet());
+		EXPECT_FALSE(Entry.ToolBarData.bSimpleComboBox);
+		EXPECT_EQ(Entry.TutorialHighlightName, NAME_None);
+		EXPECT_FALSE(Entry.Owner.IsSet());
+	}
+
+	TEST_F(ToolMenuContentTests, PoppingAnOwnerOtherThanTheCurrentOneIsFatal)
+	{
+		UToolMenus::Get()->PushOwner(&First);
+		EXPECT_DEATH(UToolMenus::Get()->PopOwner(&Second), "Assertion failed");
+		UToolMenus::Get()->PopOwner(&First);
+	}
+}
+
+#undef LOCTEXT_NAMESPACE
