@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "DetailLayoutBuilder.h"
 #include "DetailWidgetRow.h"
+#include "HAL/UnrealMemory.h"
 #include "IDetailChildrenBuilder.h"
 #include "IPropertyTypeCustomization.h"
 #include "Misc/Crc.h"
@@ -41,8 +42,17 @@ struct FSenderNameOptionEntry
 struct FSenderNameOptionKeyFuncs : BaseKeyFuncs<FSenderNameOptionEntry, FSenderNameKey>
 {
 	static const FSenderNameKey& GetSetKey(const FSenderNameOptionEntry& Element) { return Element.Key; }
-	static bool Matches(const FSenderNameKey& A, const FSenderNameKey& B) { return A.Hash == B.Hash && (A.Name == B.Name || A.Name->Equals(*B.Name, ESearchCase::CaseSensitive)); }
 	static uint32 GetKeyHash(const FSenderNameKey& Key) { return Key.Hash; }
+
+	static bool Matches(const FSenderNameKey& A, const FSenderNameKey& B)
+	{
+		if (A.Hash != B.Hash || A.Name->Len() != B.Name->Len())
+		{
+			return false;
+		}
+		// Case-sensitive equality is equality of the characters, which one block compare checks.
+		return A.Name == B.Name || FMemory::Memcmp(**A.Name, **B.Name, A.Name->Len() * sizeof(TCHAR)) == 0;
+	}
 };
 
 /**
