@@ -4,6 +4,7 @@
 #include "CoreMinimal.h"
 #include "DetailLayoutBuilder.h"
 #include "DetailWidgetRow.h"
+#include "HAL/UnrealMemory.h"
 #include "IDetailChildrenBuilder.h"
 #include "IPropertyTypeCustomization.h"
 #include "Misc/Crc.h"
@@ -17,19 +18,41 @@
 
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnCurrentSenderLost, bool);
 
-/** An option of the list: its name (held by the option) and its position. */
+/** An option's name as the index compares it: the name (held by the option) and its hash. */
+struct FSenderNameKey
+{
+	explicit FSenderNameKey(const FString& InName)
+		: Name(&InName)
+		, Hash(FCrc::MemCrc32(*InName, InName.Len() * sizeof(TCHAR)))
+	{
+	}
+
+	const FString* Name;
+	uint32 Hash;
+};
+
+/** An option of the list: its name and its position. */
 struct FSenderNameOptionEntry
 {
-	const FString* Name;
+	FSenderNameKey Key;
 	int32 Index;
 };
 
 /** Options are found by name, compared exactly: letter case makes a different sender. */
-struct FSenderNameOptionKeyFuncs : BaseKeyFuncs<FSenderNameOptionEntry, const FString*>
+struct FSenderNameOptionKeyFuncs : BaseKeyFuncs<FSenderNameOptionEntry, FSenderNameKey>
 {
-	static const FString* GetSetKey(const FSenderNameOptionEntry& Element) { return Element.Name; }
-	static bool Matches(const FString* A, const FString* B) { return A->Equals(*B, ESearchCase::CaseSensitive); }
-	static uint32 GetKeyHash(const FString* Key) { return FCrc::StrCrc32(**Key); }
+	static const FSenderNameKey& GetSetKey(const FSenderNameOptionEntry& Element) { return Element.Key; }
+	static uint32 GetKeyHash(const FSenderNameKey& Key) { return Key.Hash; }
+
+	static bool Matches(const FSenderNameKey& A, const FSenderNameKey& B)
+	{
+		if (A.Hash != B.Hash || A.Name->Len() != B.Name->Len())
+		{
+			return false;
+		}
+		// Case-sensitive equality is equality of the characters, which one block compare checks.
+		return A.Name == B.Name || FMemory::Memcmp(**A.Name, **B.Name, A.Name->Len() * sizeof(TCHAR)) == 0;
+	}
 };
 
 /**
@@ -48,8 +71,8 @@ public:
 
 	/**
 	 * Rebuilds the options from the live senders: the first-available entry, each live name once,
-	 * and the stored name last when its sender has gone. Sets of names keep this linear, as the
-	 * label runs it every frame.
+	 * and the stored name last when its sender has gone. The label runs this every frame, so it
+	 * stays linear: an index of the options, kept from one update to the next, finds each name.
 	 */
 	TArray<TSharedPtr<FString>> UpdateSenderNameOptions(FString CurrentName, bool bUseFirstAvailableSender)
 	{
@@ -58,62 +81,132 @@ public:
 		{
 			SenderNameOptions.Add(MakeShared<FString>(UseFirstAvailableSenderOption));
 		}
+		EnsureOptionIndex();
 
-		// Entries 1 and up are distinct names, so one lookup per live name finds its entry; an entry
-		// stays when a live name found it or added it, or when it is the stored name.
-		TSet<FSenderNameOptionEntry, FSenderNameOptionKeyFuncs> Listed;
-		Listed.Reserve(SenderNameOptions.Num() + LiveNames.Num());
-		for (int32 Index = 1; Index < SenderNameOptions.Num(); ++Index)
+		for (FIndexedOption& Option : IndexedOptions)
 		{
-			Listed.Add({SenderNameOptions[Index].Get(), Index});
+			Option.bIsLive = false;
 		}
-		TArray<uint8> bSeenLive;
-		bSeenLive.Reserve(SenderNameOptions.Num() + LiveNames.Num());
-		for (int32 Index = 0; Index < SenderNameOptions.Num(); ++Index)
-		{
-			bSeenLive.Add(0);
-		}
+		// Entries 1 and up are distinct names, so one lookup per live name finds its entry.
 		for (const FString& LiveName : LiveNames)
 		{
-			if (const FSenderNameOptionEntry* Entry = Listed.Find(&LiveName))
+			const FSenderNameKey LiveKey(LiveName);
+			if (const FSenderNameOptionEntry* Entry = OptionIndex.Find(LiveKey))
 			{
-				bSeenLive[Entry->Index] = 1;
-				continue;
+				IndexedOptions[Entry->Index].bIsLive = true;
 			}
-			SenderNameOptions.Add(MakeShared<FString>(LiveName));
-			bSeenLive.Add(1);
-			Listed.Add({SenderNameOptions.Last().Get(), SenderNameOptions.Num() - 1});
+			else
+			{
+				AddOption(LiveName, true);
+			}
 		}
 
-		const FSenderNameOptionEntry* CurrentEntry = Listed.Find(&CurrentName);
+		const FSenderNameOptionEntry* CurrentEntry = OptionIndex.Find(FSenderNameKey(CurrentName));
 		const int32 CurrentIndex = CurrentEntry ? CurrentEntry->Index : INDEX_NONE;
-		const bool bFoundCurrent = CurrentIndex != INDEX_NONE && bSeenLive[CurrentIndex] != 0;
+		const bool bFoundCurrent = CurrentIndex != INDEX_NONE && IndexedOptions[CurrentIndex].bIsLive;
 		OnCurrentSenderLost.Broadcast(!bUseFirstAvailableSender && !bFoundCurrent);
 
-		TArray<TSharedPtr<FString>> Kept;
-		Kept.Reserve(SenderNameOptions.Num() + 1);
-		Kept.Add(SenderNameOptions[0]);
+		// An entry stays when a live name found it or added it, or when it is the stored name. The
+		// kept ones move down in place, in order, and the index follows each one that moves.
+		int32 NumKept = 1;
 		for (int32 Index = 1; Index < SenderNameOptions.Num(); ++Index)
 		{
-			if (bSeenLive[Index] != 0 || Index == CurrentIndex)
+			const FSenderNameKey& Key = IndexedOptions[Index].Key;
+			if (!IndexedOptions[Index].bIsLive && Index != CurrentIndex)
 			{
-				Kept.Add(SenderNameOptions[Index]);
+				// Out of the index before the option, and so the name its key points at, is released.
+				OptionIndex.Remove(Key);
+				continue;
 			}
+			if (NumKept != Index)
+			{
+				OptionIndex.Find(Key)->Index = NumKept;
+				IndexedOptions[NumKept] = IndexedOptions[Index];
+				SenderNameOptions[NumKept] = MoveTemp(SenderNameOptions[Index]);
+			}
+			++NumKept;
 		}
-		SenderNameOptions = MoveTemp(Kept);
-		const bool bAddCurrent = CurrentIndex == INDEX_NONE;
+		SenderNameOptions.RemoveAt(NumKept, SenderNameOptions.Num() - NumKept, false);
+		IndexedOptions.RemoveAt(NumKept, IndexedOptions.Num() - NumKept, false);
 
 		// A stored sender that has gone stays selectable.
-		if (bAddCurrent && !CurrentName.Equals(UseFirstAvailableSenderOption))
+		if (CurrentIndex == INDEX_NONE && !CurrentName.Equals(UseFirstAvailableSenderOption))
 		{
-			SenderNameOptions.Add(MakeShared<FString>(CurrentName));
+			AddOption(CurrentName, false);
 		}
 		return SenderNameOptions;
+	}
+
+	/** The position of the first option equal to Name, or INDEX_NONE. */
+	int32 FindOption(const FString& Name)
+	{
+		if (!SenderNameOptions.IsEmpty() && SenderNameOptions[0]->Equals(Name))
+		{
+			return 0;
+		}
+		EnsureOptionIndex();
+		const FSenderNameOptionEntry* Entry = OptionIndex.Find(FSenderNameKey(Name));
+		return Entry ? Entry->Index : INDEX_NONE;
 	}
 
 	FOnCurrentSenderLost OnCurrentSenderLost;
 	TArray<TSharedPtr<FString>> SenderNameOptions;
 	FString UseFirstAvailableSenderOption = TEXT("Use first available sender");
+
+private:
+	/** What the index knows of one option, at the option's position. */
+	struct FIndexedOption
+	{
+		FSenderNameKey Key;
+		/** Whether a live name matched the option in the running update. */
+		bool bIsLive;
+	};
+
+	void AddOption(const FString& Name, bool bIsLive)
+	{
+		const int32 Index = SenderNameOptions.Add(MakeShared<FString>(Name));
+		const FSenderNameKey Key(*SenderNameOptions[Index]);
+		IndexedOptions.Add({Key, bIsLive});
+		OptionIndex.Add({Key, Index});
+	}
+
+	/**
+	 * Makes the index describe the options. Only the update changes them (the combo box reads
+	 * them), so this finds nothing to do unless they were replaced from outside, as tests empty them.
+	 */
+	void EnsureOptionIndex()
+	{
+		bool bIndexed = IndexedOptions.Num() == SenderNameOptions.Num();
+		for (int32 Index = 0; bIndexed && Index < SenderNameOptions.Num(); ++Index)
+		{
+			bIndexed = IndexedOptions[Index].Key.Name == SenderNameOptions[Index].Get();
+		}
+		if (!bIndexed)
+		{
+			RebuildOptionIndex();
+		}
+	}
+
+	void RebuildOptionIndex()
+	{
+		OptionIndex.Empty(SenderNameOptions.Num());
+		IndexedOptions.Empty(SenderNameOptions.Num());
+		for (int32 Index = 0; Index < SenderNameOptions.Num(); ++Index)
+		{
+			const FSenderNameKey Key(*SenderNameOptions[Index]);
+			IndexedOptions.Add({Key, false});
+			// Entry 0, the first-available entry, is never looked up by the update.
+			if (Index > 0)
+			{
+				OptionIndex.Add({Key, Index});
+			}
+		}
+	}
+
+	/** Entries 1 and up by name. */
+	TSet<FSenderNameOptionEntry, FSenderNameOptionKeyFuncs> OptionIndex;
+	/** One per option, in the options' order. */
+	TArray<FIndexedOption> IndexedOptions;
 };
 
 /**
@@ -231,14 +324,9 @@ public:
 		{
 			return Options[0];
 		}
-		for (const TSharedPtr<FString>& Option : Options)
-		{
-			if (Option->Equals(Name))
-			{
-				return Option;
-			}
-		}
-		return MakeShared<FString>(TEXT("Error"));
+		// Options is the list as the update left it, so the list's index finds the first equal entry.
+		const int32 Index = FNameList::Get().FindOption(Name);
+		return Index != INDEX_NONE ? Options[Index] : MakeShared<FString>(TEXT("Error"));
 	}
 
 	/** The closed combo box's text; evaluating it refreshes the options and the lost flag. */

@@ -73,6 +73,27 @@ public:
 		return Index != INDEX_NONE ? &Elements[Index] : nullptr;
 	}
 
+	/** Removes the element whose key matches. @return the number of elements removed (0 or 1). */
+	int32 Remove(typename KeyFuncs::KeyInitType Key)
+	{
+		const int32 Bucket = FindBucket(Key);
+		if (Bucket == INDEX_NONE)
+		{
+			return 0;
+		}
+		const int32 Index = Buckets[Bucket];
+		ClearBucket(Bucket);
+		// The last element fills the hole, so that elements stay contiguous.
+		const int32 LastIndex = Elements.Num() - 1;
+		if (Index != LastIndex)
+		{
+			Buckets[FindBucketOfIndex(LastIndex)] = Index;
+			Elements[Index] = MoveTemp(Elements[LastIndex]);
+		}
+		Elements.RemoveAt(LastIndex, 1, false);
+		return 1;
+	}
+
 	int32 Num() const { return Elements.Num(); }
 
 	void Reserve(int32 Number)
@@ -99,6 +120,13 @@ public:
 private:
 	int32 FindIndex(typename KeyFuncs::KeyInitType Key) const
 	{
+		const int32 Bucket = FindBucket(Key);
+		return Bucket != INDEX_NONE ? Buckets[Bucket] : INDEX_NONE;
+	}
+
+	/** The bucket holding the element whose key matches, or INDEX_NONE. */
+	int32 FindBucket(typename KeyFuncs::KeyInitType Key) const
+	{
 		if (Buckets.Num() == 0)
 		{
 			return INDEX_NONE;
@@ -107,9 +135,44 @@ private:
 		for (int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(Key)) & Mask;; Bucket = (Bucket + 1) & Mask)
 		{
 			const int32 Index = Buckets[Bucket];
-			if (Index == INDEX_NONE || KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Index]), Key))
+			if (Index == INDEX_NONE)
 			{
-				return Index;
+				return INDEX_NONE;
+			}
+			if (KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Index]), Key))
+			{
+				return Bucket;
+			}
+		}
+	}
+
+	int32 HomeBucket(int32 Index) const { return static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Elements[Index]))) & (Buckets.Num() - 1); }
+
+	int32 FindBucketOfIndex(int32 Index) const
+	{
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = HomeBucket(Index);
+		while (Buckets[Bucket] != Index)
+		{
+			Bucket = (Bucket + 1) & Mask;
+		}
+		return Bucket;
+	}
+
+	/** Empties a bucket and moves later elements of its run back, so that every probe still reaches its element. */
+	void ClearBucket(int32 Bucket)
+	{
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Hole = Bucket;
+		Buckets[Hole] = INDEX_NONE;
+		for (int32 Next = (Hole + 1) & Mask; Buckets[Next] != INDEX_NONE; Next = (Next + 1) & Mask)
+		{
+			// An element may fill the hole only if its probe passes the hole on the way to Next.
+			if (((Next - HomeBucket(Buckets[Next])) & Mask) >= ((Next - Hole) & Mask))
+			{
+				Buckets[Hole] = Buckets[Next];
+				Buckets[Next] = INDEX_NONE;
+				Hole = Next;
 			}
 		}
 	}

@@ -1,0 +1,8 @@
+#include "SourceListExchange.h"
+
+#include "KyroSpoutRuntimeState.h"
+
+void HeadlessSourceLists::ExchangeSpoutSenderNames(TArray<FString>& Names)
+{
+	Swap(FKyroSpoutRuntimeState::Get().ActiveSenderNames, Names);
+}
