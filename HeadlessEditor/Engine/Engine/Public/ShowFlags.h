@@ -37,10 +37,10 @@ enum EShowFlagInitMode
 struct FEngineShowFlags
 {
 #define SHOWFLAG(Name, Group, DefaultRule, Key, Text) \
-	bool Name;                                        \
-	void Set##Name(bool bVal)                         \
-	{                                                 \
-		Name = bVal;                                  \
+	bool Name; \
+	void Set##Name(bool bVal) \
+	{ \
+		Name = bVal; \
 	}
 #include "ShowFlagsValues.inl"
 

@@ -179,10 +179,10 @@ FText FText::AsCultureInvariant(FText Text)
 	return AsCultureInvariant(Text.ToString());
 }
 
-#define CASTELLAN_TEXT_AS_NUMBER(Type, Formatter)                                              \
+#define CASTELLAN_TEXT_AS_NUMBER(Type, Formatter) \
 	FText FText::AsNumber(Type Val, const FNumberFormattingOptions* const, const FCulturePtr&) \
-	{                                                                                          \
-		return FromString(Formatter(Val));                                                     \
+	{ \
+		return FromString(Formatter(Val)); \
 	}
 CASTELLAN_TEXT_AS_NUMBER(float, FormatDouble)
 CASTELLAN_TEXT_AS_NUMBER(double, FormatDouble)

@@ -41,8 +41,7 @@ struct CORE_API FDebug
 			bExecuted = true; \
 			FDebug::EnsureFailed(#InExpression, __FILE__, __LINE__, Format, ##__VA_ARGS__); \
 		} \
-		return false; \
-	}()))
+		return false; }()))
 
 #define ensure(InExpression) UE_ENSURE_IMPL(false, InExpression, TEXT(""))
 #define ensureMsgf(InExpression, InFormat, ...) UE_ENSURE_IMPL(false, InExpression, InFormat, ##__VA_ARGS__)

@@ -4,8 +4,8 @@
 #include "Misc/AssertionMacros.h"
 
 /** The body of a virtual that derived classes must override but that cannot be pure, since its class is constructed. */
-#define PURE_VIRTUAL(func, ...)                                                \
-	{                                                                          \
+#define PURE_VIRTUAL(func, ...) \
+	{ \
 		checkf(false, TEXT("Pure virtual not implemented (%s)"), TEXT(#func)); \
-		__VA_ARGS__                                                            \
+		__VA_ARGS__ \
 	}

@@ -144,28 +144,28 @@ void FUObjectRegistry::SetEnumNames(UEnum* Enum, UEnum::ECppForm Form, const TAr
 	Enum->Names.Add(TPair<FName, int64>(FName(*(Prefix + Enum->GetName() + TEXT("_MAX"))), MaxValue + 1));
 }
 
-#define IMPLEMENT_INTRINSIC_CLASS(TClass, TSuperClassExpr, TFlags)                                                                                                                                                           \
-	UObject* TClass::__NewInstance(const FObjectInitializer& ObjectInitializer)                                                                                                                                              \
-	{                                                                                                                                                                                                                        \
-		return new TClass();                                                                                                                                                                                                 \
-	}                                                                                                                                                                                                                        \
-	UClass* TClass::StaticClass()                                                                                                                                                                                            \
-	{                                                                                                                                                                                                                        \
-		static UClass* Class = nullptr;                                                                                                                                                                                      \
-		if (!Class)                                                                                                                                                                                                          \
-		{                                                                                                                                                                                                                    \
-			/* Making the super class makes the class of classes, which may be this one: make only one. */                                                                                                                   \
-			UClass* SuperClass = TSuperClassExpr;                                                                                                                                                                            \
-			if (!Class)                                                                                                                                                                                                      \
-			{                                                                                                                                                                                                                \
+#define IMPLEMENT_INTRINSIC_CLASS(TClass, TSuperClassExpr, TFlags) \
+	UObject* TClass::__NewInstance(const FObjectInitializer& ObjectInitializer) \
+	{ \
+		return new TClass(); \
+	} \
+	UClass* TClass::StaticClass() \
+	{ \
+		static UClass* Class = nullptr; \
+		if (!Class) \
+		{ \
+			/* Making the super class makes the class of classes, which may be this one: make only one. */ \
+			UClass* SuperClass = TSuperClassExpr; \
+			if (!Class) \
+			{ \
 				UE::CoreUObject::Private::ConstructNativeClass(Class, &TEXT(#TClass)[1], TEXT("/Script/CoreUObject"), SuperClass, sizeof(TClass), EClassFlags(TFlags | CLASS_Intrinsic), NAME_None, &TClass::__NewInstance); \
-			}                                                                                                                                                                                                                \
-		}                                                                                                                                                                                                                    \
-		return Class;                                                                                                                                                                                                        \
-	}                                                                                                                                                                                                                        \
-	UClass* Z_Construct_UClass_##TClass##_NoRegister()                                                                                                                                                                       \
-	{                                                                                                                                                                                                                        \
-		return TClass::StaticClass();                                                                                                                                                                                        \
+			} \
+		} \
+		return Class; \
+	} \
+	UClass* Z_Construct_UClass_##TClass##_NoRegister() \
+	{ \
+		return TClass::StaticClass(); \
 	}
 
 IMPLEMENT_INTRINSIC_CLASS(UObject, nullptr, CLASS_None)
@@ -419,17 +419,17 @@ bool UEnum::HasMetaData(const TCHAR* Key, int32 NameIndex) const
 
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 
-#define IMPLEMENT_CORE_STRUCT(TStruct, Name, ...)                                                                                                                   \
-	template <>                                                                                                                                                     \
-	UScriptStruct* StaticStruct<TStruct>()                                                                                                                          \
-	{                                                                                                                                                               \
-		static UScriptStruct* Struct = nullptr;                                                                                                                     \
-		if (!Struct)                                                                                                                                                \
-		{                                                                                                                                                           \
+#define IMPLEMENT_CORE_STRUCT(TStruct, Name, ...) \
+	template <> \
+	UScriptStruct* StaticStruct<TStruct>() \
+	{ \
+		static UScriptStruct* Struct = nullptr; \
+		if (!Struct) \
+		{ \
 			UE::CoreUObject::Private::ConstructNativeStruct(Struct, TEXT(Name), TEXT("/Script/CoreUObject"), nullptr, new UScriptStruct::TCppStructOps<TStruct>()); \
-			__VA_ARGS__                                                                                                                                             \
-		}                                                                                                                                                           \
-		return Struct;                                                                                                                                              \
+			__VA_ARGS__ \
+		} \
+		return Struct; \
 	}
 
 #define CORE_STRUCT_MEMBER(PropertyClass, TStruct, Member) Struct->AddCppProperty(new PropertyClass(Struct, TEXT(#Member), EPropertyFlags(CPF_Edit | CPF_BlueprintVisible | CPF_NativeAccessSpecifierPublic), static_cast<int32>(offsetof(TStruct, Member))));

@@ -217,22 +217,22 @@ void FProperty::CopyCompleteValue_InContainer(void* Dest, void const* Src) const
 	CopyCompleteValue(ContainerPtrToValuePtr<void>(Dest), ContainerPtrToValuePtr<void>(Src));
 }
 
-#define IMPLEMENT_NUMERIC_PROPERTY(ClassName, TypeName, CppType, Format)                                     \
-	FString ClassName::GetClassName() const                                                                  \
-	{                                                                                                        \
-		return TEXT(TypeName);                                                                               \
-	}                                                                                                        \
-	FString ClassName::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const                    \
-	{                                                                                                        \
-		return TEXT(#CppType);                                                                               \
-	}                                                                                                        \
+#define IMPLEMENT_NUMERIC_PROPERTY(ClassName, TypeName, CppType, Format) \
+	FString ClassName::GetClassName() const \
+	{ \
+		return TEXT(TypeName); \
+	} \
+	FString ClassName::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const \
+	{ \
+		return TEXT(#CppType); \
+	} \
 	void ClassName::ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const \
-	{                                                                                                        \
-		ValueStr += FString::Printf(Format, GetPropertyValue(PropertyValue));                                \
-	}                                                                                                        \
-	const TCHAR* ClassName::ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const      \
-	{                                                                                                        \
-		return ImportNumber<CppType>(Buffer, Data, PortFlags);                                               \
+	{ \
+		ValueStr += FString::Printf(Format, GetPropertyValue(PropertyValue)); \
+	} \
+	const TCHAR* ClassName::ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const \
+	{ \
+		return ImportNumber<CppType>(Buffer, Data, PortFlags); \
 	}
 
 IMPLEMENT_NUMERIC_PROPERTY(FIntProperty, "IntProperty", int32, TEXT("%d"))

@@ -220,8 +220,8 @@ UClass* StaticClass()
  * by the header tool (the classes of CoreUObject itself, as the engine's DECLARE_CLASS does).
  */
 #define DECLARE_CLASS_INTRINSIC_NO_CTOR(TClass, TSuperClass, TRequiredAPI) \
-public:                                                                    \
-	typedef TSuperClass Super;                                             \
-	typedef TClass ThisClass;                                              \
-	TRequiredAPI static UClass* StaticClass();                             \
+public: \
+	typedef TSuperClass Super; \
+	typedef TClass ThisClass; \
+	TRequiredAPI static UClass* StaticClass(); \
 	static UObject* __NewInstance(const FObjectInitializer& ObjectInitializer);

@@ -204,17 +204,17 @@ private:
 	};
 };
 
-#define HEADLESS_DECLARE_PROPERTY(ClassName, CppType)                                                                   \
-	class COREUOBJECT_API ClassName : public TProperty<CppType>                                                         \
-	{                                                                                                                   \
-	public:                                                                                                             \
-		using TProperty<CppType>::TProperty;                                                                            \
-		virtual FString GetClassName() const override;                                                                  \
-		virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;      \
-                                                                                                                        \
-	protected:                                                                                                          \
+#define HEADLESS_DECLARE_PROPERTY(ClassName, CppType) \
+	class COREUOBJECT_API ClassName : public TProperty<CppType> \
+	{ \
+	public: \
+		using TProperty<CppType>::TProperty; \
+		virtual FString GetClassName() const override; \
+		virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override; \
+\
+	protected: \
 		virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const override; \
-		virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override;      \
+		virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override; \
 	};
 
 HEADLESS_DECLARE_PROPERTY(FBoolProperty, bool)

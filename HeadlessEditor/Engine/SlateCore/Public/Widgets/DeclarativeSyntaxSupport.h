@@ -27,117 +27,117 @@
 #define SArgumentNew(InArgs, WidgetType, ...) \
 	MakeTDecl<WidgetType>(#WidgetType, __FILE__, __LINE__, RequiredArgs::MakeRequiredArgs(__VA_ARGS__)) <<= InArgs
 
-#define SLATE_BEGIN_ARGS(WidgetType)                           \
-public:                                                        \
+#define SLATE_BEGIN_ARGS(WidgetType) \
+public: \
 	struct FArguments : public TSlateBaseNamedArgs<WidgetType> \
-	{                                                          \
-		typedef FArguments WidgetArgsType;                     \
+	{ \
+		typedef FArguments WidgetArgsType; \
 		FORCENOINLINE FArguments()
 
 #define SLATE_END_ARGS() \
-	}                    \
+	} \
 	;
 
 #define SLATE_PRIVATE_ATTRIBUTE_VARIABLE(AttrType, AttrName) \
 	TAttribute<AttrType> _##AttrName
 
-#define SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName)                                                                                                                           \
-	WidgetArgsType& AttrName(TAttribute<AttrType> InAttribute)                                                                                                                         \
-	{                                                                                                                                                                                  \
-		_##AttrName = MoveTemp(InAttribute);                                                                                                                                           \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	template <typename... VarTypes>                                                                                                                                                    \
-	WidgetArgsType& AttrName##_Static(TIdentity_T<typename TAttribute<AttrType>::FGetter::template TFuncPtr<VarTypes...>> InFunc, VarTypes... Vars)                                    \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateStatic(InFunc, Vars...));                                                                      \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	WidgetArgsType& AttrName##_Lambda(TFunction<AttrType(void)>&& InFunctor)                                                                                                           \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(Forward<TFunction<AttrType(void)>>(InFunctor));                                                                                     \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName##_Raw(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)         \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(InUserObject, InFunc, Vars...));                                                           \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
+#define SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName) \
+	WidgetArgsType& AttrName(TAttribute<AttrType> InAttribute) \
+	{ \
+		_##AttrName = MoveTemp(InAttribute); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <typename... VarTypes> \
+	WidgetArgsType& AttrName##_Static(TIdentity_T<typename TAttribute<AttrType>::FGetter::template TFuncPtr<VarTypes...>> InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateStatic(InFunc, Vars...)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	WidgetArgsType& AttrName##_Lambda(TFunction<AttrType(void)>&& InFunctor) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(Forward<TFunction<AttrType(void)>>(InFunctor)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& AttrName##_Raw(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(InUserObject, InFunc, Vars...)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
 	WidgetArgsType& AttrName(TSharedRef<UserClass> InUserObjectRef, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObjectRef, InFunc, Vars...));                                                         \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)               \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Vars...));                                                            \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
-	}                                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                                   \
-	WidgetArgsType& AttrName##_UObject(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)     \
-	{                                                                                                                                                                                  \
-		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateUObject(InUserObject, InFunc, Vars...));                                                       \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                                               \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObjectRef, InFunc, Vars...)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& AttrName(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(InUserObject, InFunc, Vars...)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& AttrName##_UObject(UserClass* InUserObject, typename TAttribute<AttrType>::FGetter::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##AttrName = TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateUObject(InUserObject, InFunc, Vars...)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 
 #define SLATE_PRIVATE_ARGUMENT_VARIABLE(ArgType, ArgName) \
 	ArgType _##ArgName
 
 #define SLATE_PRIVATE_ARGUMENT_FUNCTION(ArgType, ArgName) \
-	WidgetArgsType& ArgName(ArgType InArg)                \
-	{                                                     \
-		_##ArgName = InArg;                               \
-		return static_cast<WidgetArgsType*>(this)->Me();  \
+	WidgetArgsType& ArgName(ArgType InArg) \
+	{ \
+		_##ArgName = InArg; \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 
 /** An argument that is either a value or a getter polled on each read. */
-#define SLATE_ATTRIBUTE(AttrType, AttrName)               \
+#define SLATE_ATTRIBUTE(AttrType, AttrName) \
 	SLATE_PRIVATE_ATTRIBUTE_VARIABLE(AttrType, AttrName); \
 	SLATE_PRIVATE_ATTRIBUTE_FUNCTION(AttrType, AttrName)
 
 /** An argument that can only be a value. */
-#define SLATE_ARGUMENT(ArgType, ArgName)               \
+#define SLATE_ARGUMENT(ArgType, ArgName) \
 	SLATE_PRIVATE_ARGUMENT_VARIABLE(ArgType, ArgName); \
 	SLATE_PRIVATE_ARGUMENT_FUNCTION(ArgType, ArgName)
 
 /** A style argument, held as a pointer to the style struct. */
-#define SLATE_STYLE_ARGUMENT(ArgType, ArgName)           \
-	const ArgType* _##ArgName;                           \
-	WidgetArgsType& ArgName(const ArgType* InArg)        \
-	{                                                    \
-		_##ArgName = InArg;                              \
+#define SLATE_STYLE_ARGUMENT(ArgType, ArgName) \
+	const ArgType* _##ArgName; \
+	WidgetArgsType& ArgName(const ArgType* InArg) \
+	{ \
+		_##ArgName = InArg; \
 		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 
 /** Slots declared with `+ SPanel::Slot()`. */
-#define SLATE_SLOT_ARGUMENT(SlotType, SlotName)                              \
-	TArray<typename SlotType::FSlotArguments> _##SlotName;                   \
-	WidgetArgsType& operator+(typename SlotType::FSlotArguments& SlotToAdd)  \
-	{                                                                        \
-		_##SlotName.Add(MoveTemp(SlotToAdd));                                \
-		return static_cast<WidgetArgsType*>(this)->Me();                     \
-	}                                                                        \
+#define SLATE_SLOT_ARGUMENT(SlotType, SlotName) \
+	TArray<typename SlotType::FSlotArguments> _##SlotName; \
+	WidgetArgsType& operator+(typename SlotType::FSlotArguments& SlotToAdd) \
+	{ \
+		_##SlotName.Add(MoveTemp(SlotToAdd)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
 	WidgetArgsType& operator+(typename SlotType::FSlotArguments&& SlotToAdd) \
-	{                                                                        \
-		_##SlotName.Add(MoveTemp(SlotToAdd));                                \
-		return static_cast<WidgetArgsType*>(this)->Me();                     \
+	{ \
+		_##SlotName.Add(MoveTemp(SlotToAdd)); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 
 #define SLATE_PRIVATE_SLOT_BEGIN_ARGS(SlotType, SlotParentType) \
-	{                                                           \
-		using WidgetArgsType = SlotType::FSlotArguments;        \
+	{ \
+		using WidgetArgsType = SlotType::FSlotArguments; \
 		using SlotParentType::FSlotArguments::FSlotArguments;
 
-#define SLATE_SLOT_BEGIN_ARGS(SlotType, SlotParentType)           \
-public:                                                           \
+#define SLATE_SLOT_BEGIN_ARGS(SlotType, SlotParentType) \
+public: \
 	struct FSlotArguments : public SlotParentType::FSlotArguments \
 							SLATE_PRIVATE_SLOT_BEGIN_ARGS(SlotType, SlotParentType)
 
 #define SLATE_SLOT_END_ARGS() \
-	}                         \
+	} \
 	;
 
 /** A widget reference that is always valid; it defaults to SNullWidget. */
@@ -171,93 +171,93 @@ struct NamedSlotProperty
 	TAlwaysValidWidget& SlotContent;
 };
 
-#define SLATE_NAMED_SLOT(DeclarationType, SlotName)                    \
-	NamedSlotProperty<DeclarationType> SlotName()                      \
-	{                                                                  \
+#define SLATE_NAMED_SLOT(DeclarationType, SlotName) \
+	NamedSlotProperty<DeclarationType> SlotName() \
+	{ \
 		return NamedSlotProperty<DeclarationType>(*this, _##SlotName); \
-	}                                                                  \
+	} \
 	TAlwaysValidWidget _##SlotName;
 
-#define SLATE_DEFAULT_SLOT(DeclarationType, SlotName)               \
-	SLATE_NAMED_SLOT(DeclarationType, SlotName);                    \
+#define SLATE_DEFAULT_SLOT(DeclarationType, SlotName) \
+	SLATE_NAMED_SLOT(DeclarationType, SlotName); \
 	DeclarationType& operator[](const TSharedRef<SWidget>& InChild) \
-	{                                                               \
-		_##SlotName.Widget = InChild;                               \
-		return static_cast<WidgetArgsType*>(this)->Me();            \
+	{ \
+		_##SlotName.Widget = InChild; \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 
 /** An event handler argument; it binds const and non-const methods alike. */
-#define SLATE_EVENT(DelegateName, EventName)                                                                                                                           \
-	WidgetArgsType& EventName(const DelegateName& InDelegate)                                                                                                          \
-	{                                                                                                                                                                  \
-		_##EventName = InDelegate;                                                                                                                                     \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	WidgetArgsType& EventName(DelegateName&& InDelegate)                                                                                                               \
-	{                                                                                                                                                                  \
-		_##EventName = MoveTemp(InDelegate);                                                                                                                           \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <typename StaticFuncPtr, typename... VarTypes>                                                                                                            \
-	WidgetArgsType& EventName##_Static(StaticFuncPtr InFunc, VarTypes... Vars)                                                                                         \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateStatic(InFunc, Vars...);                                                                                                    \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <typename FunctorType, typename... VarTypes>                                                                                                              \
-	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars)                                                                                      \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateLambda(Forward<FunctorType>(InFunctor), Vars...);                                                                           \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)              \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...);                                                                                         \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)         \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...);                                                                                         \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)      \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...);                                                                                       \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
+#define SLATE_EVENT(DelegateName, EventName) \
+	WidgetArgsType& EventName(const DelegateName& InDelegate) \
+	{ \
+		_##EventName = InDelegate; \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	WidgetArgsType& EventName(DelegateName&& InDelegate) \
+	{ \
+		_##EventName = MoveTemp(InDelegate); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <typename StaticFuncPtr, typename... VarTypes> \
+	WidgetArgsType& EventName##_Static(StaticFuncPtr InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateStatic(InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <typename FunctorType, typename... VarTypes> \
+	WidgetArgsType& EventName##_Lambda(FunctorType&& InFunctor, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateLambda(Forward<FunctorType>(InFunctor), Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateRaw(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
 	WidgetArgsType& EventName(TSharedRef<UserClass> InUserObjectRef, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...);                                                                                       \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)                    \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...);                                                                                          \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)               \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...);                                                                                          \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)          \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...);                                                                                     \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
-	template <class UserClass, typename... VarTypes>                                                                                                                   \
-	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars)     \
-	{                                                                                                                                                                  \
-		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...);                                                                                     \
-		return static_cast<WidgetArgsType*>(this)->Me();                                                                                                               \
-	}                                                                                                                                                                  \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObjectRef, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateSP(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, typename DelegateName::template TMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	template <class UserClass, typename... VarTypes> \
+	WidgetArgsType& EventName##_UObject(UserClass* InUserObject, typename DelegateName::template TConstMethodPtr<UserClass, VarTypes...> InFunc, VarTypes... Vars) \
+	{ \
+		_##EventName = DelegateName::CreateUObject(InUserObject, InFunc, Vars...); \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
 	DelegateName _##EventName;
 
 /** The arguments every widget takes, whatever its type. */
