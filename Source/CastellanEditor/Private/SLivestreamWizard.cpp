@@ -52,6 +52,24 @@ namespace LivestreamWizard
 	const FMargin ItemPadding(0.0f, 2.0f);
 	const TCHAR* const AssetFolder = TEXT("/Game/LivestreamWizard/");
 
+	/** A step's heading: regular, 10 points, mid grey. */
+	TSharedRef<STextBlock> MakeStepLabel(const FText& Text)
+	{
+		return SNew(STextBlock)
+			.Text(Text)
+			.Font(FCoreStyle::GetDefaultFontStyle("Regular", 10))
+			.ColorAndOpacity(LabelColour);
+	}
+
+	/** A red warning line under a step, written by validation. */
+	TSharedRef<STextBlock> MakeWarning(TSharedPtr<STextBlock>& OutWarning, const FText& Text)
+	{
+		return SAssignNew(OutWarning, STextBlock)
+			.Text(Text)
+			.Font(FCoreStyle::GetDefaultFontStyle("Italic", 8))
+			.ColorAndOpacity(FLinearColor::Red);
+	}
+
 	/** An output's check box, unchecked, with its caption as plain (unlocalised) text. */
 	TSharedRef<SCheckBox> MakeOutputCheckBox(TSharedPtr<SCheckBox>& OutCheckBox, const TCHAR* Caption)
 	{
@@ -152,9 +170,6 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 	CameraTypeOptions.Add(MakeShared<FString>(ThreeSixtyCamOption));
 	CameraTypeOptions.Add(MakeShared<FString>(ViewportCaptureOption));
 
-	const FSlateFontInfo LabelFont = FCoreStyle::GetDefaultFontStyle("Regular", 10);
-	const FSlateFontInfo WarningFont = FCoreStyle::GetDefaultFontStyle("Italic", 8);
-
 	// clang-format off
 	ChildSlot
 	[
@@ -208,10 +223,7 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
-								SNew(STextBlock)
-								.Text(LOCTEXT("CameraType_Label", "1. Select Capture Type:"))
-								.Font(LabelFont)
-								.ColorAndOpacity(LabelColour)
+								LivestreamWizard::MakeStepLabel(LOCTEXT("CameraType_Label", "1. Select Capture Type:"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
@@ -229,8 +241,9 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
+								// Step 1 has no warning of its own; the line keeps the steps evenly spaced.
 								SNew(STextBlock)
-								.Font(WarningFont)
+								.Font(FCoreStyle::GetDefaultFontStyle("Italic", 8))
 							]
 						]
 						+ SVerticalBox::Slot()
@@ -241,10 +254,7 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
-								SNew(STextBlock)
-								.Text(LOCTEXT("OutputType_Label", "2. Select Output Type:"))
-								.Font(LabelFont)
-								.ColorAndOpacity(LabelColour)
+								LivestreamWizard::MakeStepLabel(LOCTEXT("OutputType_Label", "2. Select Output Type:"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
@@ -273,10 +283,7 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
-								SAssignNew(OutputTypeWarning, STextBlock)
-								.Text(LOCTEXT("OutputType_Warning", ""))
-								.Font(WarningFont)
-								.ColorAndOpacity(FLinearColor::Red)
+								LivestreamWizard::MakeWarning(OutputTypeWarning, LOCTEXT("OutputType_Warning", ""))
 							]
 						]
 						+ SVerticalBox::Slot()
@@ -287,10 +294,7 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
-								SNew(STextBlock)
-								.Text(LOCTEXT("StreamName_Label", "3. Set Livestream Name:"))
-								.Font(LabelFont)
-								.ColorAndOpacity(LabelColour)
+								LivestreamWizard::MakeStepLabel(LOCTEXT("StreamName_Label", "3. Set Livestream Name:"))
 							]
 							+ SVerticalBox::Slot()
 							.AutoHeight()
@@ -301,10 +305,7 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 							+ SVerticalBox::Slot()
 							.AutoHeight()
 							[
-								SAssignNew(StreamNameWarning, STextBlock)
-								.Text(LOCTEXT("StreamName_Warning", ""))
-								.Font(WarningFont)
-								.ColorAndOpacity(FLinearColor::Red)
+								LivestreamWizard::MakeWarning(StreamNameWarning, LOCTEXT("StreamName_Warning", ""))
 							]
 						]
 						+ SVerticalBox::Slot()
