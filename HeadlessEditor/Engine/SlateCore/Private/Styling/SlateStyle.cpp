@@ -53,34 +53,35 @@ void FSlateStyleSet::SetContentRoot(const FString& InContentRootDir)
 	ContentRootDir = InContentRootDir;
 }
 
-FString FSlateStyleSet::RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
-{
-	return (ContentRootDir / FString(RelativePath)) + Extension;
-}
-
-FString FSlateStyleSet::RootToContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
-{
-	return (ContentRootDir / RelativePath) + Extension;
-}
-
+// Every overload forms the same path: the root, the relative path, then the extension if any.
 FString FSlateStyleSet::RootToContentDir(const FString& RelativePath, const TCHAR* Extension)
 {
 	return (ContentRootDir / RelativePath) + Extension;
 }
 
+FString FSlateStyleSet::RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
+{
+	return RootToContentDir(FString(RelativePath), Extension);
+}
+
+FString FSlateStyleSet::RootToContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
+{
+	return RootToContentDir(FString(RelativePath), Extension);
+}
+
 FString FSlateStyleSet::RootToContentDir(const ANSICHAR* RelativePath)
 {
-	return ContentRootDir / FString(RelativePath);
+	return RootToContentDir(FString(RelativePath), TEXT(""));
 }
 
 FString FSlateStyleSet::RootToContentDir(const WIDECHAR* RelativePath)
 {
-	return ContentRootDir / RelativePath;
+	return RootToContentDir(FString(RelativePath), TEXT(""));
 }
 
 FString FSlateStyleSet::RootToContentDir(const FString& RelativePath)
 {
-	return ContentRootDir / RelativePath;
+	return RootToContentDir(RelativePath, TEXT(""));
 }
 
 void FSlateStyleSet::SetCoreContentRoot(const FString& InCoreContentRootDir)
@@ -88,34 +89,34 @@ void FSlateStyleSet::SetCoreContentRoot(const FString& InCoreContentRootDir)
 	CoreContentRootDir = InCoreContentRootDir;
 }
 
-FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
-{
-	return (CoreContentRootDir / FString(RelativePath)) + Extension;
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
-{
-	return (CoreContentRootDir / RelativePath) + Extension;
-}
-
 FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath, const TCHAR* Extension)
 {
 	return (CoreContentRootDir / RelativePath) + Extension;
 }
 
+FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
+{
+	return RootToCoreContentDir(FString(RelativePath), Extension);
+}
+
+FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
+{
+	return RootToCoreContentDir(FString(RelativePath), Extension);
+}
+
 FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath)
 {
-	return CoreContentRootDir / FString(RelativePath);
+	return RootToCoreContentDir(FString(RelativePath), TEXT(""));
 }
 
 FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath)
 {
-	return CoreContentRootDir / RelativePath;
+	return RootToCoreContentDir(FString(RelativePath), TEXT(""));
 }
 
 FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath)
 {
-	return CoreContentRootDir / RelativePath;
+	return RootToCoreContentDir(RelativePath, TEXT(""));
 }
 
 const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSICHAR* Specifier, const ISlateStyle* RequestingStyle) const
