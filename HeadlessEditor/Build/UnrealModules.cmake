@@ -1,6 +1,10 @@
 # Builds mirrored engine modules, plugin runtime stand-ins and the product module the way
 # Unreal Build Tool lays them out: one shared library per module, Public/ exported to
 # dependants, Private/ kept to the module, reflected headers run through the header tool.
+#
+# A mirrored module may also have a Headless/ folder: the controls and observers that the test
+# instruments use (recorded dialogs, counters, resets). The engine has none of it, so Headless/ is
+# seen only by the module itself and by HeadlessTesting, never by the modules that depend on it.
 
 set(UE_GENERATED_ROOT "${CMAKE_BINARY_DIR}/Generated")
 
@@ -54,6 +58,12 @@ function(ue_add_module Name)
 		PRIVATE "${ARG_DIRECTORY}/Private")
 	if(EXISTS "${ARG_DIRECTORY}/Classes")
 		target_include_directories(${Name} PUBLIC "${ARG_DIRECTORY}/Classes")
+	endif()
+	if(EXISTS "${ARG_DIRECTORY}/Headless")
+		target_include_directories(${Name} PRIVATE "${ARG_DIRECTORY}/Headless")
+		file(GLOB_RECURSE InstrumentHeaders CONFIGURE_DEPENDS "${ARG_DIRECTORY}/Headless/*.h")
+		target_sources(${Name} PRIVATE ${InstrumentHeaders})
+		set_property(GLOBAL APPEND PROPERTY HEADLESS_INSTRUMENT_DIRS "${ARG_DIRECTORY}/Headless")
 	endif()
 	target_link_libraries(${Name} PUBLIC ${ARG_PUBLIC_DEPS} PRIVATE ${ARG_PRIVATE_DEPS})
 	set_target_properties(${Name} PROPERTIES
