@@ -2,6 +2,8 @@
 #include "CastellanEditorStyle.h"
 #include "Framework/Docking/TabManager.h"
 #include "HeadlessEditorSession.h"
+#include "HeadlessPropertyEditor.h"
+#include "HeadlessToolMenus.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
@@ -28,7 +30,7 @@ namespace
 		EXPECT_FALSE(FGlobalTabmanager::Get()->HasTabSpawner(WizardTab));
 		EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(FCastellanEditorStyle::GetStyleSetName()), nullptr);
 		EXPECT_FALSE(FCoreDelegates::OnFEngineLoopInitComplete.IsBoundToObject(Module));
-		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(Module));
+		EXPECT_FALSE(UE::Headless::HasToolMenusStartupCallbackFor(Module));
 	}
 }
 
@@ -51,7 +53,7 @@ TEST(ModuleLifecycle, StartupTellsThePropertyEditorOnceThatCustomisationsChanged
 	FHeadlessEditorSession Session;
 
 	const FPropertyEditorModule& PropertyEditor = FModuleManager::GetModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
-	EXPECT_EQ(PropertyEditor.GetCustomizationModuleChangedCount(), 1);
+	EXPECT_EQ(UE::Headless::GetCustomizationModuleChangedCount(), 1);
 }
 
 TEST(ModuleLifecycle, ShutdownLeavesNothingOfTheModuleRegistered)

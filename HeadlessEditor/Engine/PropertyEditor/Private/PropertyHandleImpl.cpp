@@ -2,7 +2,7 @@
 
 #include "DetailLayoutBuilder.h"
 #include "DetailPropertyNode.h"
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
 #include "Internationalization/Internationalization.h"
 #include "UObject/Class.h"
 #include "UObject/Object.h"
