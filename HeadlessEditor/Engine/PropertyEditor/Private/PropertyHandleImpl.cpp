@@ -5,7 +5,9 @@
 #include "HeadlessDetailsView.h"
 #include "Internationalization/Internationalization.h"
 #include "UObject/Class.h"
+#include "UObject/EnumProperty.h"
 #include "UObject/Object.h"
+#include "UObject/TextProperty.h"
 #include "Widgets/Text/STextBlock.h"
 
 #include <new>

@@ -1,6 +1,8 @@
 #include "UObject/UnrealType.h"
 
 #include "Containers/StringConv.h"
+#include "UObject/EnumProperty.h"
+#include "UObject/TextProperty.h"
 #include "UObject/Package.h"
 #include "Templates/Casts.h"
 
