@@ -1,4 +1,4 @@
-#include "Headless/HeadlessDetailsView.h"
+#include "DetailsViewDriver.h"
 #include "HeadlessEditorSession.h"
 #include "KyroCaptureComponent.h"
 #include "ShowFlags.h"

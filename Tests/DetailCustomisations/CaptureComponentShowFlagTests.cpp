@@ -1,6 +1,7 @@
 #include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
-#include "Headless/HeadlessDetailsView.h"
-#include "Headless/HeadlessShowFlags.h"
+#include "DetailsViewDriver.h"
+#include "HeadlessPropertyEditor.h"
+#include "HeadlessShowFlags.h"
 #include "HeadlessEditorSession.h"
 #include "Kyro360CaptureComponent.h"
 #include "KyroCGCaptureComponent.h"
@@ -293,11 +294,11 @@ TEST(CaptureComponentRegistration, CompositionCaptureIsCustomisedOnlyOnceTheEngi
 		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("Kyro360CaptureComponent"))));
 		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("KyroMediaOutput"))));
 		EXPECT_FALSE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass));
-		const int32 ChangesBefore = PropertyEditor.GetCustomizationModuleChangedCount();
+		const int32 ChangesBefore = UE::Headless::GetCustomizationModuleChangedCount();
 
 		Session.FinishEngineInitialisation();
 		EXPECT_EQ(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass), bComposureLoaded);
-		EXPECT_EQ(PropertyEditor.GetCustomizationModuleChangedCount(), ChangesBefore);
+		EXPECT_EQ(UE::Headless::GetCustomizationModuleChangedCount(), ChangesBefore);
 	}
 }
 

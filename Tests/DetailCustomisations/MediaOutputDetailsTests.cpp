@@ -2,10 +2,11 @@
 #include "Editor.h"
 #include "Engine/World.h"
 #include "Fonts/SlateFontInfo.h"
-#include "Headless/HeadlessDesktop.h"
-#include "Headless/HeadlessDetailsView.h"
-#include "Headless/HeadlessGameProjectGeneration.h"
-#include "Headless/HeadlessProjectManager.h"
+#include "HeadlessDesktop.h"
+#include "DetailsViewDriver.h"
+#include "HeadlessDocumentation.h"
+#include "HeadlessGameProjectGeneration.h"
+#include "HeadlessProjectManager.h"
 #include "Editor/Transactor.h"
 #include "LevelDriver.h"
 #include "HeadlessEditorSession.h"
@@ -172,8 +173,8 @@ TEST_F(MediaOutputDetailsTests, HardwareEncoderRowAppearsOnlyWhenTheRuntimeDoesN
 	ASSERT_TRUE(ToolTip.IsValid());
 	const TSharedRef<SDocumentationToolTip> DocToolTip = StaticCastSharedRef<SDocumentationToolTip>(ToolTip->GetContentWidget());
 	EXPECT_TRUE(DocToolTip->GetTextTooltip().ToString().StartsWith(TEXT("Enable the 'HardwareEncoders' module to benefit from an FPS increase")));
-	EXPECT_TRUE(DocToolTip->GetDocumentationLink().Equals(TEXT("Shared/Hardware")));
-	EXPECT_TRUE(DocToolTip->GetExcerptName().Equals(TEXT("HardwareEncoders")));
+	EXPECT_TRUE(UE::Headless::GetDocumentationLink(*DocToolTip).Equals(TEXT("Shared/Hardware")));
+	EXPECT_TRUE(UE::Headless::GetExcerptName(*DocToolTip).Equals(TEXT("HardwareEncoders")));
 }
 
 TEST_F(MediaOutputDetailsTests, StartAndStopEnablingFollowsTheOutputLive)

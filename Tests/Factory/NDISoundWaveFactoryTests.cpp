@@ -1,5 +1,5 @@
 #include "Factories/KyroNDISoundWaveFactory.h"
-#include "Headless/HeadlessContentBrowser.h"
+#include "HeadlessContentBrowser.h"
 #include "HeadlessEditorSession.h"
 #include "KyroNDISoundWave.h"
 #include "Internationalization/Internationalization.h"

@@ -110,3 +110,33 @@ TEST(FCrcMemCrc32, DependsOnEveryByteAndSpreadsNamesOverTheLowBits)
 	EXPECT_EQ(Hashes.size(), 1000u);
 	EXPECT_GT(Buckets.size(), 850u);
 }
+
+TEST(CoreSet, AddReturnsTheElementsIdAndTellsWhetherItWasAlreadyThere)
+{
+	TSet<int32, FIntKeyFuncs> Set;
+	bool bWasThere = true;
+
+	const FSetElementId First = Set.Add(4, &bWasThere);
+	EXPECT_TRUE(First.IsValidId());
+	EXPECT_FALSE(bWasThere);
+	const FSetElementId Second = Set.Add(9, &bWasThere);
+	EXPECT_FALSE(bWasThere);
+	EXPECT_FALSE(Second == First);
+
+	EXPECT_TRUE(Set.Add(4, &bWasThere) == First);
+	EXPECT_TRUE(bWasThere);
+	EXPECT_EQ(Set.Num(), 2);
+	EXPECT_FALSE(FSetElementId().IsValidId());
+}
+
+TEST(CoreSet, AddingAnElementEqualToAStoredOneReplacesIt)
+{
+	TSet<FString> Names;
+	Names.Add(FString(TEXT("Stage")));
+
+	Names.Add(FString(TEXT("STAGE")));
+
+	EXPECT_EQ(Names.Num(), 1);
+	ASSERT_NE(Names.Find(FString(TEXT("stage"))), nullptr);
+	EXPECT_TRUE(Names.Find(FString(TEXT("stage")))->Equals(TEXT("STAGE"), ESearchCase::CaseSensitive)) << "The engine keeps the element added last";
+}

@@ -1,3 +1,4 @@
+#include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
 #include "Internationalization/Internationalization.h"
 #include "Internationalization/Text.h"
@@ -244,12 +245,44 @@ TEST(FStringFormatting, FromIntJoinAndChrN)
 	EXPECT_TRUE(FString::ChrN(3, TEXT('-')).Equals(TEXT("---")));
 }
 
-TEST(FStringConversion, Utf8RoundTripKeepsSupplementaryCharacters)
+namespace
 {
-	const FString Text = FString::FromUtf8("Caf\xC3\xA9 \xF0\x9F\x8E\xA5");
+	FString FromUtf8(const ANSICHAR* Utf8)
+	{
+		return FString(UTF8_TO_TCHAR(Utf8));
+	}
+}
+
+TEST(CoreString, Utf8RoundTripKeepsSupplementaryCharacters)
+{
+	const FString Text = FromUtf8("Caf\xC3\xA9 \xF0\x9F\x8E\xA5");
 	EXPECT_EQ(Text.Len(), 7);
 	EXPECT_EQ(Text[3], TCHAR(0x00E9));
-	EXPECT_EQ(Text.ToUtf8(), "Caf\xC3\xA9 \xF0\x9F\x8E\xA5");
+	EXPECT_STREQ(TCHAR_TO_UTF8(*Text), "Caf\xC3\xA9 \xF0\x9F\x8E\xA5");
+}
+
+TEST(CoreString, Utf8SequenceCutShortByTheEndOfTheTextBecomesOneBogusCharacter)
+{
+	EXPECT_TRUE(FromUtf8("ab\xE2\x82").Equals(TEXT("ab?")));
+	EXPECT_TRUE(FromUtf8("x\xF0\x9F\x8E").Equals(TEXT("x?")));
+	EXPECT_TRUE(FromUtf8("\xC3").Equals(TEXT("?")));
+	const FUTF8ToTCHAR CutByLength("Caf\xC3\xA9", 4);
+	EXPECT_EQ(FString(CutByLength.Length(), CutByLength.Get()), FString(TEXT("Caf?")));
+}
+
+TEST(CoreString, MalformedUtf8BecomesOneBogusCharacterPerSequence)
+{
+	EXPECT_TRUE(FromUtf8("a\x80z").Equals(TEXT("a?z"))) << "A lone continuation octet";
+	EXPECT_TRUE(FromUtf8("\xC0\xAFz").Equals(TEXT("?z"))) << "An overlong form";
+	EXPECT_TRUE(FromUtf8("\xED\xA0\x80z").Equals(TEXT("?z"))) << "An encoded surrogate";
+	EXPECT_TRUE(FromUtf8("\xF4\x90\x80\x80z").Equals(TEXT("?z"))) << "Beyond U+10FFFF";
+	EXPECT_TRUE(FromUtf8("\xC3(z").Equals(TEXT("?z"))) << "The octet that fails to continue a sequence goes with it";
+}
+
+TEST(CoreString, UnpairedSurrogatesBecomeBogusCharactersInUtf8)
+{
+	const TCHAR Text[] = {TCHAR(0xD800), TEXT('a'), TCHAR(0xDC00), 0};
+	EXPECT_STREQ(TCHAR_TO_UTF8(Text), "?a?");
 }
 
 TEST(FStringDeathTest, IndexingOutOfRangeIsFatal)

@@ -25,13 +25,13 @@ namespace
 	protected:
 		virtual void SetUp() override
 		{
-			HeadlessEditorEngine::Create();
+			UE::Headless::CreateEditorEngine();
 			World = GEditor->GetEditorWorldContext().World();
 		}
 		virtual void TearDown() override
 		{
 			GUndo = nullptr;
-			HeadlessEditorEngine::Destroy();
+			UE::Headless::DestroyEditorEngine();
 		}
 
 		UWorld* World = nullptr;
@@ -124,14 +124,14 @@ TEST_F(ObjectTests, TearingTheSessionDownDestroysEveryObjectItMade)
 	TWeakObjectPtr<AActor> Actor = World->SpawnActor<AActor>();
 	TWeakObjectPtr<UTextureRenderTarget2D> Asset = NewObject<UTextureRenderTarget2D>(CreatePackage(TEXT("/Game/Stage")));
 	TWeakObjectPtr<UWorld> OldWorld = World;
-	HeadlessEditorEngine::Destroy();
+	UE::Headless::DestroyEditorEngine();
 	EXPECT_EQ(GEditor, nullptr);
 	EXPECT_TRUE(Actor.IsStale());
 	EXPECT_TRUE(Asset.IsStale());
 	EXPECT_TRUE(OldWorld.IsStale());
 	EXPECT_EQ(FindObject<UPackage>(nullptr, TEXT("/Game/Stage")), nullptr);
 
-	HeadlessEditorEngine::Create();
+	UE::Headless::CreateEditorEngine();
 	World = GEditor->GetEditorWorldContext().World();
 	EXPECT_TRUE(World->PersistentLevel->Actors.IsEmpty());
 	EXPECT_EQ(World->SpawnActor<AActor>()->GetName(), TEXT("Actor_0"));

@@ -4,6 +4,7 @@
 #include "Engine/Engine.h"
 #include "Engine/Texture.h"
 #include "Engine/TextureRenderTarget2D.h"
+#include "UObject/EnumProperty.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 

@@ -1,5 +1,5 @@
 #include "GameFramework/SaveGame.h"
-#include "Headless/HeadlessSaveGames.h"
+#include "HeadlessSaveGames.h"
 #include "HeadlessEditorEngine.h"
 #include "Kismet/GameplayStatics.h"
 #include "KyroSaveGame.h"
@@ -18,11 +18,11 @@ namespace
 		virtual void SetUp() override
 		{
 			UE::Headless::ClearSaveGames();
-			HeadlessEditorEngine::Create();
+			UE::Headless::CreateEditorEngine();
 		}
 		virtual void TearDown() override
 		{
-			HeadlessEditorEngine::Destroy();
+			UE::Headless::DestroyEditorEngine();
 			UE::Headless::SetSaveGameSystemAvailable(true);
 			UE::Headless::ClearSaveGames();
 		}
@@ -71,8 +71,8 @@ TEST_F(SaveGameTests, LoadingMakesAFreshObjectOfTheSavedClassWithTheSavedValues)
 TEST_F(SaveGameTests, SlotsOutliveTheEditorSessionThatWroteThem)
 {
 	ASSERT_TRUE(UGameplayStatics::SaveGameToSlot(MakeRecord(TEXT("1.4"), true), TEXT("Settings"), 0));
-	HeadlessEditorEngine::Destroy();
-	HeadlessEditorEngine::Create();
+	UE::Headless::DestroyEditorEngine();
+	UE::Headless::CreateEditorEngine();
 	EXPECT_TRUE(UGameplayStatics::DoesSaveGameExist(TEXT("Settings"), 0));
 	const UKyroSaveGame* Record = Cast<UKyroSaveGame>(UGameplayStatics::LoadGameFromSlot(TEXT("Settings"), 0));
 	ASSERT_NE(Record, nullptr);

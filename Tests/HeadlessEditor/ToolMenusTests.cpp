@@ -1,5 +1,6 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Misc/CoreDelegates.h"
+#include "HeadlessToolMenus.h"
 #include "Modules/ModuleManager.h"
 #include "ToolMenus.h"
 
@@ -53,7 +54,8 @@ namespace
 
 		EXPECT_EQ(First.Calls, 1);
 		EXPECT_FALSE(Handle.IsValid()) << "A callback that already ran is not kept, so there is nothing to unregister";
-		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First));
+		FCoreDelegates::OnPostEngineInit.Broadcast();
+		EXPECT_EQ(First.Calls, 1) << "A callback that already ran does not run again at engine start-up";
 	}
 
 	TEST_F(ToolMenusTests, StartupCallbackWithoutSlateWaitsForPostEngineInitAndRunsOnce)
@@ -63,15 +65,13 @@ namespace
 		const FDelegateHandle Handle = UToolMenus::RegisterStartupCallback(First.MakeCallback());
 		EXPECT_TRUE(Handle.IsValid());
 		EXPECT_EQ(First.Calls, 0);
-		EXPECT_TRUE(UToolMenus::HasStartupCallbackFor(&First));
 
 		FSlateApplication::Create();
 		FCoreDelegates::OnPostEngineInit.Broadcast();
 		EXPECT_EQ(First.Calls, 1);
-		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First)) << "Deferred callbacks are cleared once they ran";
 
 		FCoreDelegates::OnPostEngineInit.Broadcast();
-		EXPECT_EQ(First.Calls, 1);
+		EXPECT_EQ(First.Calls, 1) << "Deferred callbacks are cleared once they ran";
 	}
 
 	TEST_F(ToolMenusTests, StartupCallbackWaitsWhileTheMenusModuleIsNotLoaded)
@@ -93,9 +93,8 @@ namespace
 		UToolMenus::RegisterStartupCallback(First.MakeCallback());
 
 		FCoreDelegates::OnPostEngineInit.Broadcast();
-
 		EXPECT_EQ(First.Calls, 0);
-		EXPECT_TRUE(UToolMenus::HasStartupCallbackFor(&First));
+		EXPECT_TRUE(UE::Headless::HasToolMenusStartupCallbackFor(&First));
 	}
 
 	TEST_F(ToolMenusTests, UnRegisterStartupCallbackByPointerRemovesOnlyThatObjectsCallbacks)
@@ -107,7 +106,8 @@ namespace
 
 		UToolMenus::UnRegisterStartupCallback(&First);
 
-		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(&First));
+		EXPECT_FALSE(UE::Headless::HasToolMenusStartupCallbackFor(&First));
+		EXPECT_TRUE(UE::Headless::HasToolMenusStartupCallbackFor(&Second));
 		FSlateApplication::Create();
 		FCoreDelegates::OnPostEngineInit.Broadcast();
 		EXPECT_EQ(First.Calls, 0);
@@ -337,8 +337,9 @@ namespace
 		EXPECT_TRUE(Entry.ToolBarData.bSimpleComboBox);
 		EXPECT_EQ(Entry.TutorialHighlightName, FName(TEXT("ComboHighlight")));
 
-		ASSERT_NE(Entry.GetActionChoice().GetUIAction(), nullptr);
-		Entry.GetActionChoice().GetUIAction()->Execute();
+		const FUIAction* EntryAction = UE::Headless::GetToolMenuEntryAction(Entry);
+		ASSERT_NE(EntryAction, nullptr);
+		EntryAction->Execute();
 		EXPECT_TRUE(bExecuted);
 		Entry.ToolBarData.ComboButtonContextMenuGenerator.NewToolMenu.ExecuteIfBound(nullptr);
 		EXPECT_TRUE(bMenuMade);
@@ -355,11 +356,19 @@ namespace
 		EXPECT_FALSE(Entry.Owner.IsSet());
 	}
 
-	TEST_F(ToolMenuContentTests, PoppingAnOwnerOtherThanTheCurrentOneIsFatal)
+	class ToolMenusDeathTest : public ToolMenuContentTests
 	{
-		UToolMenus::Get()->PushOwner(&First);
-		EXPECT_DEATH(UToolMenus::Get()->PopOwner(&Second), "Assertion failed");
-		UToolMenus::Get()->PopOwner(&First);
+	};
+
+	TEST_F(ToolMenusDeathTest, EndingAnOwnerScopeThatIsNotTheInnermostIsFatal)
+	{
+		EXPECT_DEATH(
+			{
+				FToolMenuOwnerScoped* Outer = new FToolMenuOwnerScoped(&First);
+				FToolMenuOwnerScoped Inner(&Second);
+				delete Outer;
+			},
+			"Assertion failed");
 	}
 }
 

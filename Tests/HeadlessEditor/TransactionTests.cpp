@@ -23,14 +23,14 @@ namespace
 	protected:
 		virtual void SetUp() override
 		{
-			HeadlessEditorEngine::Create();
+			UE::Headless::CreateEditorEngine();
 			World = GEditor->GetEditorWorldContext().World();
 			Target = NewObject<UTextureRenderTarget2D>(CreatePackage(TEXT("/Game/Stage/Feed")), TEXT("Feed"), RF_Public | RF_Standalone | RF_Transactional);
 			Target->SizeX = 256;
 		}
 		virtual void TearDown() override
 		{
-			HeadlessEditorEngine::Destroy();
+			UE::Headless::DestroyEditorEngine();
 		}
 
 		UTransactor* Trans() const { return GEditor->Trans; }

@@ -1,8 +1,9 @@
 #include "CastellanEditorCommands.h"
 #include "Framework/Docking/TabManager.h"
-#include "Headless/HeadlessDesktop.h"
+#include "HeadlessDesktop.h"
 #include "Headless/HeadlessMenus.h"
-#include "Headless/HeadlessPlugins.h"
+#include "HeadlessPlugins.h"
+#include "HeadlessToolMenus.h"
 #include "HeadlessEditorSession.h"
 #include "Internationalization/Internationalization.h"
 #include "KyroBlueprintFunctionLibrary.h"
@@ -100,7 +101,7 @@ TEST(ToolbarMenu, ToolbarButtonIsACalloutComboWithNoActionOfItsOwn)
 	EXPECT_TRUE(FTextInspector::GetKey(Button->ToolTip.Get()).Get(TEXT("")).Equals(TEXT("NimbrelBtnTootlip")));
 	EXPECT_EQ(Button->Icon.Get().GetStyleName(), FName(TEXT("KyroCastellan.PluginTaskbarIcon")));
 	EXPECT_FALSE(Button->ToolBarData.bSimpleComboBox);
-	const FUIAction* Action = Button->GetActionChoice().GetUIAction();
+	const FUIAction* Action = UE::Headless::GetToolMenuEntryAction(*Button);
 	ASSERT_NE(Action, nullptr);
 	EXPECT_FALSE(Action->IsBound());
 }

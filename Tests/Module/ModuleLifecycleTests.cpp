@@ -1,7 +1,14 @@
+#include "AuthDelegates.h"
 #include "CastellanEditor.h"
+#include "CastellanEditorCommands.h"
 #include "CastellanEditorStyle.h"
+#include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
+#include "Framework/Notifications/NotificationManager.h"
 #include "HeadlessEditorSession.h"
+#include "HeadlessPropertyEditor.h"
+#include "HeadlessToolMenus.h"
+#include "IPlacementModeModule.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
@@ -28,7 +35,45 @@ namespace
 		EXPECT_FALSE(FGlobalTabmanager::Get()->HasTabSpawner(WizardTab));
 		EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(FCastellanEditorStyle::GetStyleSetName()), nullptr);
 		EXPECT_FALSE(FCoreDelegates::OnFEngineLoopInitComplete.IsBoundToObject(Module));
-		EXPECT_FALSE(UToolMenus::HasStartupCallbackFor(Module));
+		EXPECT_FALSE(UE::Headless::HasToolMenusStartupCallbackFor(Module));
+	}
+
+	/** The toolbar entries the module adds, however many there are. */
+	int32 CountToolbarButtons()
+	{
+		UToolMenu* Toolbar = UToolMenus::Get()->FindMenu(TEXT("LevelEditor.LevelEditorToolBar.AssetsToolBar"));
+		const FToolMenuSection* Section = Toolbar ? Toolbar->FindSection(TEXT("Content")) : nullptr;
+		if (!Section)
+		{
+			return 0;
+		}
+		return Section->Blocks.FilterByPredicate([](const FToolMenuEntry& Entry)
+								  { return Entry.Name == FName(TEXT("Nimbrel")); })
+			.Num();
+	}
+
+	int32 CountPlaceableItems()
+	{
+		TArray<TSharedPtr<FPlaceableItem>> Items;
+		IPlacementModeModule::Get().GetItemsForCategory(TEXT("Nimbrel"), Items);
+		return Items.Num();
+	}
+
+	int32 CountNotifications()
+	{
+		return FSlateNotificationManager::Get().GetNotifications().Num();
+	}
+
+	/** What the module has registered while it runs, counted so that a duplicate shows. */
+	void ExpectRegisteredOnce()
+	{
+		EXPECT_TRUE(FGlobalTabmanager::Get()->HasTabSpawner(WizardTab));
+		EXPECT_TRUE(FCastellanEditorCommands::IsRegistered());
+		EXPECT_TRUE(FInputBindingManager::Get().GetContextByName(TEXT("CastellanEditor")).IsValid());
+		EXPECT_NE(FSlateStyleRegistry::FindSlateStyle(FCastellanEditorStyle::GetStyleSetName()), nullptr);
+		EXPECT_EQ(CountToolbarButtons(), 1);
+		EXPECT_NE(IPlacementModeModule::Get().GetRegisteredPlacementCategory(TEXT("Nimbrel")), nullptr);
+		EXPECT_EQ(CountPlaceableItems(), 10);
 	}
 }
 
@@ -51,7 +96,7 @@ TEST(ModuleLifecycle, StartupTellsThePropertyEditorOnceThatCustomisationsChanged
 	FHeadlessEditorSession Session;
 
 	const FPropertyEditorModule& PropertyEditor = FModuleManager::GetModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
-	EXPECT_EQ(PropertyEditor.GetCustomizationModuleChangedCount(), 1);
+	EXPECT_EQ(UE::Headless::GetCustomizationModuleChangedCount(), 1);
 }
 
 TEST(ModuleLifecycle, ShutdownLeavesNothingOfTheModuleRegistered)
@@ -116,4 +161,49 @@ TEST(ModuleLifecycle, TheWizardTabIsANomadTabHoldingTheWizard)
 	ASSERT_TRUE(Tab.IsValid());
 	EXPECT_EQ(Tab->GetTabRole(), ETabRole::NomadTab);
 	EXPECT_EQ(Tab->GetContent()->GetType(), FName(TEXT("SLivestreamWizard")));
+}
+
+TEST(ModuleLifecycle, AHundredStartsAndShutdownsInOneSessionLeaveNothingBehind)
+{
+	FHeadlessEditorSession Session;
+	const FPropertyEditorModule& PropertyEditor = FModuleManager::GetModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	const int32 ClassLayouts = PropertyEditor.GetClassNameToDetailLayoutNameMap().Num();
+	Session.ShutdownEditorModule();
+	const bool bEngineInitBoundByOthers = FCoreDelegates::OnFEngineLoopInitComplete.IsBound();
+	const bool bUpgradeBoundByOthers = AuthDelegates::OnUpgradeAvailable.IsBound();
+
+	for (int32 Cycle = 0; Cycle < 100; ++Cycle)
+	{
+		SCOPED_TRACE(testing::Message() << "cycle " << Cycle);
+		Session.StartEditorModule();
+		const void* Module = &GetEditorModule();
+		ExpectRegisteredOnce();
+		EXPECT_TRUE(FCoreDelegates::OnFEngineLoopInitComplete.IsBoundToObject(Module));
+		EXPECT_TRUE(AuthDelegates::OnUpgradeAvailable.IsBoundToObject(Module));
+
+		Session.ShutdownEditorModule();
+
+		ExpectNothingRegisteredFor(Module);
+		EXPECT_FALSE(FCastellanEditorCommands::IsRegistered());
+		EXPECT_FALSE(FInputBindingManager::Get().GetContextByName(TEXT("CastellanEditor")).IsValid());
+		EXPECT_EQ(CountToolbarButtons(), 0);
+		EXPECT_EQ(IPlacementModeModule::Get().GetRegisteredPlacementCategory(TEXT("Nimbrel")), nullptr);
+		EXPECT_FALSE(AuthDelegates::OnUpgradeAvailable.IsBoundToObject(Module));
+		EXPECT_EQ(FCoreDelegates::OnFEngineLoopInitComplete.IsBound(), bEngineInitBoundByOthers);
+		EXPECT_EQ(AuthDelegates::OnUpgradeAvailable.IsBound(), bUpgradeBoundByOthers);
+		EXPECT_EQ(CountNotifications(), 0);
+		if (HasFailure())
+		{
+			break;
+		}
+	}
+
+	// The customisations stay registered until the editor exits, once each.
+	EXPECT_EQ(PropertyEditor.GetClassNameToDetailLayoutNameMap().Num(), ClassLayouts);
+	for (const TCHAR* TypeName : {TEXT("KyroSpoutReceiverInterface"), TEXT("KyroScreenCaptureOptions"), TEXT("KyroNDIReceiverInterface")})
+	{
+		EXPECT_EQ(UE::Headless::GetPropertyTypeLayoutCount(TypeName), 1) << TCHAR_TO_UTF8(TypeName);
+	}
+	Session.StartEditorModule();
+	ExpectRegisteredOnce();
 }

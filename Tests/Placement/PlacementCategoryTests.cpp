@@ -1,4 +1,4 @@
-#include "Headless/HeadlessPlacementMode.h"
+#include "HeadlessPlacementMode.h"
 #include "HeadlessEditorSession.h"
 #include "IPlacementModeModule.h"
 #include "Internationalization/Internationalization.h"

@@ -76,7 +76,7 @@ TEST(StyleSet, HoldsEveryBrushOfTheTableInOrderWithItsImageAndSize)
 	for (int32 Index = 0; Index < Keys.Num(); ++Index)
 	{
 		const FExpectedBrush& Expected = ExpectedBrushes[Index];
-		SCOPED_TRACE(FString(Expected.Key).ToUtf8());
+		SCOPED_TRACE(TCHAR_TO_UTF8(Expected.Key));
 		EXPECT_EQ(Keys[Index], FName(Expected.Key));
 		const FSlateBrush* Brush = Style.GetBrush(Expected.Key);
 		ASSERT_NE(Brush, nullptr);
@@ -101,7 +101,7 @@ TEST(StyleSet, EveryImageExistsAsAValidPngOfTheDeclaredSize)
 {
 	for (const FExpectedBrush& Expected : ExpectedBrushes)
 	{
-		const std::string Path = ImageFile(Expected).ToUtf8();
+		const std::string Path = TCHAR_TO_UTF8(*ImageFile(Expected));
 		SCOPED_TRACE(Path);
 		std::string Error;
 		const std::optional<FPngInfo> Png = ReadPng(Path, Error);

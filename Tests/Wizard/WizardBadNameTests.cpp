@@ -81,8 +81,8 @@ TEST(WizardBadName, TrailingNumbersCountOnWithTheirPaddingAndDigitOnlyNamesGetAS
 TEST(WizardBadName, ANonLatinNameIsKeptAsTyped)
 {
 	FWizardHarness Harness;
-	const FString Japanese = FString::FromUtf8("ライブ配信");
-	const FString Russian = FString::FromUtf8("Трансляция");
+	const FString Japanese = FString(TEXT("ライブ配信"));
+	const FString Russian = FString(TEXT("Трансляция"));
 
 	Harness.Create(Japanese, TEXT("Spout"));
 	EXPECT_TRUE(ReportsSuccess(Harness, Japanese));

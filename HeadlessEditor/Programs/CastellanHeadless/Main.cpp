@@ -1,6 +1,7 @@
 // Boots the headless editor with the CastellanEditor module and shows what a user would see.
 
 #include "CastellanEditor.h"
+#include "Containers/StringConv.h"
 #include "Framework/Docking/TabManager.h"
 #include "HeadlessEditorSession.h"
 #include "Modules/ModuleManager.h"
@@ -20,7 +21,7 @@ namespace
 {
 	void Print(const FString& Text)
 	{
-		std::fputs(Text.ToUtf8().c_str(), stdout);
+		std::fputs(TCHAR_TO_UTF8(*Text), stdout);
 	}
 
 	int PrintUsage()
@@ -74,7 +75,7 @@ namespace
 		for (int Index = 2; Index + 1 < ArgumentCount; Index += 2)
 		{
 			const std::string Option = Arguments[Index];
-			const FString Value = FString::FromUtf8(Arguments[Index + 1]);
+			const FString Value = UTF8_TO_TCHAR(Arguments[Index + 1]);
 			if (Option == "--capture")
 			{
 				OutRequest.Capture = Value;
@@ -104,7 +105,7 @@ namespace
 			{ return Option->Equals(Request.Capture); });
 		if (!Capture)
 		{
-			std::fprintf(stderr, "Unknown capture type \"%s\".\n", Request.Capture.ToUtf8().c_str());
+			std::fprintf(stderr, "Unknown capture type \"%s\".\n", TCHAR_TO_UTF8(*Request.Capture));
 			return false;
 		}
 		FWidgetDriver::PickComboItem(Combo.ToSharedRef(), *Capture);
@@ -114,7 +115,7 @@ namespace
 			const TSharedPtr<SCheckBox> CheckBox = FWidgetDriver::Find<SCheckBox>(Wizard, TEXT("SCheckBox"), Output);
 			if (!CheckBox.IsValid())
 			{
-				std::fprintf(stderr, "Unknown output \"%s\".\n", Output.ToUtf8().c_str());
+				std::fprintf(stderr, "Unknown output \"%s\".\n", TCHAR_TO_UTF8(*Output));
 				return false;
 			}
 			FWidgetDriver::ToggleCheckBox(CheckBox.ToSharedRef());

@@ -8,6 +8,7 @@
 #include "Framework/Commands/UICommandInfo.h"
 #include "GameFramework/Actor.h"
 #include "Headless/HeadlessMenus.h"
+#include "HeadlessPropertyEditor.h"
 #include "IPlacementModeModule.h"
 #include "KyroMediaOutput.h"
 #include "KyroNDISenderManager.h"
@@ -92,9 +93,9 @@ namespace
 		{
 			return;
 		}
-		for (const auto& Pair : PropertyEditor->GetGlobalPropertyTypeToLayoutMap())
+		for (const FName TypeName : UE::Headless::GetCustomizedPropertyTypeNames())
 		{
-			AppendLine(Out, 1, FString::Printf(TEXT("Property type customisation: %s"), *Pair.Key.ToString()));
+			AppendLine(Out, 1, FString::Printf(TEXT("Property type customisation: %s"), *TypeName.ToString()));
 		}
 		for (const auto& Pair : PropertyEditor->GetClassNameToDetailLayoutNameMap())
 		{

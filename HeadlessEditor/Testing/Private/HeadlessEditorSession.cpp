@@ -4,9 +4,9 @@
 #include "Editor/EditorEngine.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
-#include "Headless/HeadlessDesktop.h"
+#include "HeadlessDesktop.h"
 #include "Headless/HeadlessNotifications.h"
-#include "Headless/HeadlessPlugins.h"
+#include "HeadlessPlugins.h"
 #include "HeadlessEditorEngine.h"
 #include "HeadlessLevelViewports.h"
 #include "HeadlessSlateRenderer.h"
@@ -53,7 +53,7 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 		UE::Headless::MountPlugin(TEXT("KyroCastellan"), GetPluginBaseDir(), Descriptor);
 	}
 
-	HeadlessEditorEngine::Create();
+	UE::Headless::CreateEditorEngine();
 	LevelViewports = MakeUnique<FHeadlessLevelViewports>(Options.LevelViewports, Options.ActiveLevelViewport);
 	for (const TCHAR* Module : EngineStartupModules)
 	{
@@ -84,7 +84,7 @@ FHeadlessEditorSession::~FHeadlessEditorSession()
 	UE::Headless::ResetNotifications();
 	UE::Headless::ResetDesktop();
 	LevelViewports.reset();
-	HeadlessEditorEngine::Destroy();
+	UE::Headless::DestroyEditorEngine();
 	FGlobalTabmanager::Get()->ResetForHeadlessSession();
 	FSlateApplication::Shutdown();
 	UE::Headless::UnmountAllPlugins();

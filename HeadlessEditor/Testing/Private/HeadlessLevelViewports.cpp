@@ -1,6 +1,6 @@
 #include "HeadlessLevelViewports.h"
 
-#include "Headless/HeadlessLevelEditor.h"
+#include "HeadlessLevelEditor.h"
 #include "LevelEditorViewport.h"
 #include "UnrealClient.h"
 
@@ -16,12 +16,12 @@ FHeadlessLevelViewports::FHeadlessLevelViewports(const TArray<FHeadlessLevelView
 		Clients.Add(MoveTemp(Client));
 		Viewports.Add(MoveTemp(Viewport));
 	}
-	HeadlessLevelEditor::SetActiveViewport(Viewports.IsValidIndex(ActiveViewport) ? Viewports[ActiveViewport].get() : nullptr);
+	UE::Headless::SetActiveViewport(Viewports.IsValidIndex(ActiveViewport) ? Viewports[ActiveViewport].get() : nullptr);
 }
 
 FHeadlessLevelViewports::~FHeadlessLevelViewports()
 {
-	HeadlessLevelEditor::SetActiveViewport(nullptr);
+	UE::Headless::SetActiveViewport(nullptr);
 	Clients.Reset();
 	Viewports.Reset();
 }

@@ -5,7 +5,7 @@
 #include "Engine/Level.h"
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
-#include "Headless/HeadlessLevelEditor.h"
+#include "HeadlessLevelEditor.h"
 #include "LevelEditorViewport.h"
 #include "Misc/PackageName.h"
 #include "Selection.h"
@@ -52,7 +52,7 @@ FLevelEditorViewportClient* FLevelDriver::GetLevelViewportClient(int32 Index)
 
 void FLevelDriver::SetActiveLevelViewport(int32 Index)
 {
-	HeadlessLevelEditor::SetActiveViewport(Index == INDEX_NONE ? nullptr : GetLevelViewportClient(Index)->Viewport);
+	UE::Headless::SetActiveViewport(Index == INDEX_NONE ? nullptr : GetLevelViewportClient(Index)->Viewport);
 }
 
 TArray<UObject*> FLevelDriver::GetAssets(const FString& Path)

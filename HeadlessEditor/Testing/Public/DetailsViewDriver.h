@@ -1,7 +1,11 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
+
+using UE::Headless::FHeadlessDetailCategory;
+using UE::Headless::FHeadlessDetailRow;
+using UE::Headless::FHeadlessDetailsView;
 
 /**
  * Shows objects in a details view through the registered customisations, as the editor's details

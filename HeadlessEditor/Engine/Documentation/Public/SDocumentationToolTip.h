@@ -27,12 +27,6 @@ public:
 
 		bool IsInteractive() const;
 
-		/** Headless editor: the documentation page and excerpt the tooltip points at, as a test reads them. */
-		const FString& GetDocumentationLink() const { return DocumentationLink; }
-		const FString& GetExcerptName() const { return ExcerptName; }
-
 	private:
 		TAttribute<FText> TextContent;
-		FString DocumentationLink;
-		FString ExcerptName;
 };

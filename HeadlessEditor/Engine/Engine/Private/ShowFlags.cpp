@@ -1,7 +1,7 @@
 #include "ShowFlags.h"
 
 #include "Containers/Map.h"
-#include "Headless/HeadlessShowFlags.h"
+#include "HeadlessShowFlags.h"
 #include "Internationalization/Internationalization.h"
 
 namespace

@@ -1,6 +1,6 @@
 #include "GameProjectGenerationModule.h"
 
-#include "Headless/HeadlessGameProjectGeneration.h"
+#include "HeadlessGameProjectGeneration.h"
 
 namespace UE::Headless
 {

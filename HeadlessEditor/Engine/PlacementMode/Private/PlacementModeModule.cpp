@@ -1,4 +1,4 @@
-#include "Headless/HeadlessPlacementMode.h"
+#include "HeadlessPlacementMode.h"
 #include "IPlacementModeModule.h"
 
 namespace

@@ -1,6 +1,6 @@
 #include "Interfaces/IPluginManager.h"
 
-#include "Headless/HeadlessPlugins.h"
+#include "HeadlessPlugins.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 

@@ -1,6 +1,6 @@
 #include "Interfaces/IProjectManager.h"
 
-#include "Headless/HeadlessProjectManager.h"
+#include "HeadlessProjectManager.h"
 
 namespace UE::Headless
 {

@@ -5,7 +5,6 @@
 /** What a plugin's .uplugin file declares. */
 struct PROJECTS_API FPluginDescriptor
 {
-	int32 FileVersion = 3;
 	int32 Version = 0;
 	FString VersionName;
 	FString FriendlyName;

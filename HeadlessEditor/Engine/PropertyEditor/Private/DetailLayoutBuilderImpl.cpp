@@ -419,24 +419,14 @@ TSharedPtr<FDetailPropertyNode> FDetailLayoutBuilderImpl::NodeOf(const TSharedPt
 TSharedPtr<IPropertyTypeCustomization> FDetailLayoutBuilderImpl::MakeTypeCustomization(const TSharedRef<FDetailPropertyNode>& Node, const TSharedRef<IPropertyHandle>& Handle) const
 {
 	const FStructProperty* StructProperty = CastField<FStructProperty>(Node->GetProperty());
-	const FPropertyEditorModule* Module = FModuleManager::GetModulePtr<FPropertyEditorModule>(TEXT("PropertyEditor"));
+	FPropertyEditorModule* Module = FModuleManager::GetModulePtr<FPropertyEditorModule>(TEXT("PropertyEditor"));
 	if (!StructProperty || !StructProperty->Struct || !Module)
 	{
 		return nullptr;
 	}
-	const FPropertyTypeLayoutCallbackList* Callbacks = Module->GetGlobalPropertyTypeToLayoutMap().Find(StructProperty->Struct->GetFName());
-	if (!Callbacks)
-	{
-		return nullptr;
-	}
-	for (const FPropertyTypeLayoutCallback& Callback : Callbacks->IdentifierList)
-	{
-		if (Callback.IsValid() && Callback.PropertyTypeIdentifier->IsPropertyTypeCustomized(*Handle))
-		{
-			return Callback.GetCustomizationInstance();
-		}
-	}
-	return Callbacks->BaseCallback.IsValid() ? Callbacks->BaseCallback.GetCustomizationInstance().ToSharedPtr() : nullptr;
+	// This view has no layouts of its own, only the ones registered with the module.
+	const FPropertyTypeLayoutCallback Callback = Module->FindPropertyTypeLayoutCallback(StructProperty->Struct->GetFName(), *Handle, FCustomPropertyTypeLayoutMap());
+	return Callback.IsValid() ? Callback.GetCustomizationInstance().ToSharedPtr() : nullptr;
 }
 
 TSharedRef<FHeadlessDetailRow> FDetailLayoutBuilderImpl::GenerateRow(const TSharedRef<FDetailPropertyNode>& Node, FDetailCategoryImpl& Category, bool bAdvanced)

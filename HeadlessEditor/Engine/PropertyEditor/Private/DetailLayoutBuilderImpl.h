@@ -4,11 +4,15 @@
 #include "DetailCategoryBuilder.h"
 #include "DetailLayoutBuilder.h"
 #include "DetailWidgetRow.h"
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
 #include "IDetailChildrenBuilder.h"
 #include "IDetailGroup.h"
 #include "IDetailPropertyRow.h"
 #include "IPropertyTypeCustomization.h"
+
+using UE::Headless::FHeadlessDetailCategory;
+using UE::Headless::FHeadlessDetailRow;
+using UE::Headless::FHeadlessDetailsView;
 
 class FDetailCategoryImpl;
 class FDetailLayoutBuilderImpl;

@@ -1,6 +1,6 @@
 #include "DetailPropertyNode.h"
 
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
 #include "UObject/Object.h"
 
 FDetailPropertyNode::FDetailPropertyNode(FHeadlessDetailsView* InView, const TArray<TWeakObjectPtr<UObject>>& InObjects)

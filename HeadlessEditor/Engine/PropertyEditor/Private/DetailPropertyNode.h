@@ -4,7 +4,11 @@
 #include "UObject/UnrealType.h"
 #include "UObject/WeakObjectPtr.h"
 
-class FHeadlessDetailsView;
+namespace UE::Headless
+{
+	class FHeadlessDetailsView;
+}
+using UE::Headless::FHeadlessDetailsView;
 
 /**
  * One property of the objects a details view edits: a member of the objects, a member of a

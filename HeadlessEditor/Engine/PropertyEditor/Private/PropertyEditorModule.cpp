@@ -1,17 +1,80 @@
 #include "PropertyEditorModule.h"
 
+#include "HeadlessPropertyEditor.h"
 #include "Modules/ModuleManager.h"
+#include "PropertyHandle.h"
+#include "UObject/Class.h"
 
 IMPLEMENT_MODULE(FPropertyEditorModule, PropertyEditor)
 
+namespace
+{
+	/** What the module holds beyond its class layouts. */
+	struct FPropertyEditorState
+	{
+		FCustomPropertyTypeLayoutMap GlobalPropertyTypeToLayoutMap;
+		/** How often customisation modules reported a change since the module started (open panels refresh each time). */
+		int32 CustomizationModuleChangedCount = 0;
+	};
+
+	FPropertyEditorState& GetState()
+	{
+		static FPropertyEditorState State;
+		return State;
+	}
+}
+
+TSharedRef<IPropertyTypeCustomization> FPropertyTypeLayoutCallback::GetCustomizationInstance() const
+{
+	return PropertyTypeLayoutDelegate.Execute();
+}
+
+void FPropertyTypeLayoutCallbackList::Add(const FPropertyTypeLayoutCallback& NewCallback)
+{
+	if (NewCallback.PropertyTypeIdentifier.IsValid())
+	{
+		IdentifierList.Add(NewCallback);
+	}
+	else
+	{
+		BaseCallback = NewCallback;
+	}
+}
+
+void FPropertyTypeLayoutCallbackList::Remove(const TSharedPtr<IPropertyTypeIdentifier>& InIdentifier)
+{
+	if (InIdentifier.IsValid())
+	{
+		IdentifierList.RemoveAll([&InIdentifier](const FPropertyTypeLayoutCallback& Callback)
+			{ return Callback.PropertyTypeIdentifier == InIdentifier; });
+	}
+	else
+	{
+		BaseCallback = FPropertyTypeLayoutCallback();
+	}
+}
+
+const FPropertyTypeLayoutCallback& FPropertyTypeLayoutCallbackList::Find(const IPropertyHandle& PropertyHandle) const
+{
+	for (const FPropertyTypeLayoutCallback& Callback : IdentifierList)
+	{
+		if (Callback.IsValid() && Callback.PropertyTypeIdentifier->IsPropertyTypeCustomized(PropertyHandle))
+		{
+			return Callback;
+		}
+	}
+	return BaseCallback;
+}
+
 void FPropertyEditorModule::StartupModule()
 {
+	GetState() = FPropertyEditorState();
 }
 
 void FPropertyEditorModule::ShutdownModule()
 {
 	ClassNameToDetailLayoutNameMap.Empty();
-	GlobalPropertyTypeToLayoutMap.Empty();
+	GetState().GlobalPropertyTypeToLayoutMap.Empty();
 }
 
 void FPropertyEditorModule::RegisterCustomClassLayout(FName ClassName, FOnGetDetailCustomizationInstance DetailLayoutDelegate)
@@ -42,40 +105,61 @@ void FPropertyEditorModule::RegisterCustomPropertyTypeLayout(FName PropertyTypeN
 	Callback.PropertyTypeLayoutDelegate = PropertyTypeLayoutDelegate;
 	Callback.PropertyTypeIdentifier = Identifier;
 
-	FPropertyTypeLayoutCallbackList& Callbacks = GlobalPropertyTypeToLayoutMap.FindOrAdd(PropertyTypeName);
-	if (Identifier.IsValid())
-	{
-		Callbacks.IdentifierList.Add(Callback);
-	}
-	else
-	{
-		Callbacks.BaseCallback = Callback;
-	}
+	GetState().GlobalPropertyTypeToLayoutMap.FindOrAdd(PropertyTypeName).Add(Callback);
 }
 
 void FPropertyEditorModule::UnregisterCustomPropertyTypeLayout(FName PropertyTypeName, TSharedPtr<IPropertyTypeIdentifier> InIdentifier)
 {
-	FPropertyTypeLayoutCallbackList* Callbacks = GlobalPropertyTypeToLayoutMap.Find(PropertyTypeName);
+	FPropertyTypeLayoutCallbackList* Callbacks = GetState().GlobalPropertyTypeToLayoutMap.Find(PropertyTypeName);
 	if (!Callbacks)
 	{
 		return;
 	}
-	if (InIdentifier.IsValid())
-	{
-		Callbacks->IdentifierList.RemoveAll([&InIdentifier](const FPropertyTypeLayoutCallback& Callback)
-			{ return Callback.PropertyTypeIdentifier == InIdentifier; });
-	}
-	else
-	{
-		Callbacks->BaseCallback = FPropertyTypeLayoutCallback();
-	}
+	Callbacks->Remove(InIdentifier);
 	if (!Callbacks->BaseCallback.IsValid() && Callbacks->IdentifierList.IsEmpty())
 	{
-		GlobalPropertyTypeToLayoutMap.Remove(PropertyTypeName);
+		GetState().GlobalPropertyTypeToLayoutMap.Remove(PropertyTypeName);
 	}
 }
 
 void FPropertyEditorModule::NotifyCustomizationModuleChanged()
 {
-	++CustomizationModuleChangedCount;
+	++GetState().CustomizationModuleChangedCount;
+}
+
+FPropertyTypeLayoutCallback FPropertyEditorModule::FindPropertyTypeLayoutCallback(FName PropertyTypeName, const IPropertyHandle& PropertyHandle, const FCustomPropertyTypeLayoutMap& InstancedPropertyTypeLayoutMap)
+{
+	if (PropertyTypeName.IsNone())
+	{
+		return FPropertyTypeLayoutCallback();
+	}
+	const FPropertyTypeLayoutCallbackList* Callbacks = InstancedPropertyTypeLayoutMap.Find(PropertyTypeName);
+	if (!Callbacks)
+	{
+		Callbacks = GetState().GlobalPropertyTypeToLayoutMap.Find(PropertyTypeName);
+	}
+	return Callbacks ? Callbacks->Find(PropertyHandle) : FPropertyTypeLayoutCallback();
+}
+
+bool FPropertyEditorModule::IsCustomizedStruct(const UStruct* Struct, const FCustomPropertyTypeLayoutMap& InstancePropertyTypeLayoutMap) const
+{
+	return Struct && (InstancePropertyTypeLayoutMap.Contains(Struct->GetFName()) || GetState().GlobalPropertyTypeToLayoutMap.Contains(Struct->GetFName()));
+}
+
+int32 UE::Headless::GetCustomizationModuleChangedCount()
+{
+	return GetState().CustomizationModuleChangedCount;
+}
+
+TArray<FName> UE::Headless::GetCustomizedPropertyTypeNames()
+{
+	TArray<FName> Names;
+	GetState().GlobalPropertyTypeToLayoutMap.GetKeys(Names);
+	return Names;
+}
+
+int32 UE::Headless::GetPropertyTypeLayoutCount(FName PropertyTypeName)
+{
+	const FPropertyTypeLayoutCallbackList* Callbacks = GetState().GlobalPropertyTypeToLayoutMap.Find(PropertyTypeName);
+	return Callbacks ? (Callbacks->BaseCallback.IsValid() ? 1 : 0) + Callbacks->IdentifierList.Num() : 0;
 }

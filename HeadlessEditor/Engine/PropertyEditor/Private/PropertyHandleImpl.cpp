@@ -2,10 +2,12 @@
 
 #include "DetailLayoutBuilder.h"
 #include "DetailPropertyNode.h"
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
 #include "Internationalization/Internationalization.h"
 #include "UObject/Class.h"
+#include "UObject/EnumProperty.h"
 #include "UObject/Object.h"
+#include "UObject/TextProperty.h"
 #include "Widgets/Text/STextBlock.h"
 
 #include <new>

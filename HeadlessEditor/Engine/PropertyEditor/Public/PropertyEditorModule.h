@@ -7,6 +7,7 @@
 #include "PropertyEditorDelegates.h"
 
 class IPropertyHandle;
+class UStruct;
 
 /** Identifies, for one registration, which properties of a type it customises. */
 class IPropertyTypeIdentifier
@@ -30,29 +31,7 @@ namespace FPropertyAccess
 	};
 }
 
-struct FDetailLayoutCallback
-{
-	FOnGetDetailCustomizationInstance DetailLayoutDelegate;
-	int32 Order = 0;
-};
-
-struct FPropertyTypeLayoutCallback
-{
-	FOnGetPropertyTypeCustomizationInstance PropertyTypeLayoutDelegate;
-	TSharedPtr<IPropertyTypeIdentifier> PropertyTypeIdentifier;
-
-	bool IsValid() const { return PropertyTypeLayoutDelegate.IsBound(); }
-	TSharedRef<IPropertyTypeCustomization> GetCustomizationInstance() const { return PropertyTypeLayoutDelegate.Execute(); }
-};
-
-struct FPropertyTypeLayoutCallbackList
-{
-	FPropertyTypeLayoutCallback BaseCallback;
-	TArray<FPropertyTypeLayoutCallback> IdentifierList;
-};
-
 typedef TMap<FName, FDetailLayoutCallback> FCustomDetailLayoutNameMap;
-typedef TMap<FName, FPropertyTypeLayoutCallbackList> FCustomPropertyTypeLayoutMap;
 
 /** The property editor: details panels and the customisations registered for them. */
 class FPropertyEditorModule : public IModuleInterface
@@ -67,15 +46,12 @@ public:
 	virtual void UnregisterCustomPropertyTypeLayout(FName PropertyTypeName, TSharedPtr<IPropertyTypeIdentifier> InIdentifier = nullptr);
 	virtual void NotifyCustomizationModuleChanged();
 
-	const FCustomDetailLayoutNameMap& GetClassNameToDetailLayoutNameMap() const { return ClassNameToDetailLayoutNameMap; }
+	/** The layout for a property of that type: one whose identifier claims the property, else the type's own. */
+	FPropertyTypeLayoutCallback FindPropertyTypeLayoutCallback(FName PropertyTypeName, const IPropertyHandle& PropertyHandle, const FCustomPropertyTypeLayoutMap& InstancedPropertyTypeLayoutMap);
+	bool IsCustomizedStruct(const UStruct* Struct, const FCustomPropertyTypeLayoutMap& InstancePropertyTypeLayoutMap) const;
 
-	/** Headless editor: the type layouts registered without an instance map, as the details view reads them. */
-	const FCustomPropertyTypeLayoutMap& GetGlobalPropertyTypeToLayoutMap() const { return GlobalPropertyTypeToLayoutMap; }
-	/** Headless editor: how often customisation modules reported a change (open panels refresh each time). */
-	int32 GetCustomizationModuleChangedCount() const { return CustomizationModuleChangedCount; }
+	const FCustomDetailLayoutNameMap& GetClassNameToDetailLayoutNameMap() const { return ClassNameToDetailLayoutNameMap; }
 
 private:
 	FCustomDetailLayoutNameMap ClassNameToDetailLayoutNameMap;
-	FCustomPropertyTypeLayoutMap GlobalPropertyTypeToLayoutMap;
-	int32 CustomizationModuleChangedCount = 0;
 };

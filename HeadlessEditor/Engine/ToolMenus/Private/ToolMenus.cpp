@@ -1,6 +1,7 @@
 #include "ToolMenus.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "HeadlessToolMenus.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
@@ -8,6 +9,19 @@
 namespace
 {
 	UToolMenus* GToolMenusSingleton = nullptr;
+
+	/** Start-up callbacks waiting for the menus to be ready, and the engine-init binding that runs them. */
+	struct FStartupCallbackState
+	{
+		FSimpleMulticastDelegate Callbacks;
+		FDelegateHandle EngineInitHandle;
+	};
+
+	FStartupCallbackState& GetStartupCallbackState()
+	{
+		static FStartupCallbackState State;
+		return State;
+	}
 
 	class FToolMenusModule : public IToolMenusModule
 	{
@@ -25,8 +39,12 @@ namespace
 
 IMPLEMENT_MODULE(FToolMenusModule, ToolMenus)
 
-FSimpleMulticastDelegate UToolMenus::StartupCallbacks;
-FDelegateHandle UToolMenus::InternalStartupCallbackHandle;
+/** Reads the action an entry keeps for the widgets built from it. */
+class FPopulateMenuBuilderWithToolMenuEntry
+{
+public:
+	static const FToolUIActionChoice& GetAction(const FToolMenuEntry& Entry) { return Entry.Action; }
+};
 
 FToolMenuEntry::FToolMenuEntry()
 	: Type(EMultiBlockType::None)
@@ -133,42 +151,39 @@ FDelegateHandle UToolMenus::RegisterStartupCallback(const FSimpleMulticastDelega
 		return FDelegateHandle();
 	}
 
-	const FDelegateHandle Result = StartupCallbacks.Add(InDelegate);
-	if (!InternalStartupCallbackHandle.IsValid())
+	FStartupCallbackState& State = GetStartupCallbackState();
+	const FDelegateHandle Result = State.Callbacks.Add(InDelegate);
+	if (!State.EngineInitHandle.IsValid())
 	{
-		InternalStartupCallbackHandle = FCoreDelegates::OnPostEngineInit.AddStatic(&UToolMenus::PrivateStartupCallback);
+		State.EngineInitHandle = FCoreDelegates::OnPostEngineInit.AddStatic(&UToolMenus::PrivateStartupCallback);
 	}
 	return Result;
 }
 
 void UToolMenus::UnRegisterStartupCallback(const void* UserPointer)
 {
-	StartupCallbacks.RemoveAll(UserPointer);
+	GetStartupCallbackState().Callbacks.RemoveAll(UserPointer);
 }
 
 void UToolMenus::UnRegisterStartupCallback(FDelegateHandle InHandle)
 {
-	StartupCallbacks.Remove(InHandle);
-}
-
-bool UToolMenus::HasStartupCallbackFor(const void* UserPointer)
-{
-	return StartupCallbacks.IsBoundToObject(UserPointer);
+	GetStartupCallbackState().Callbacks.Remove(InHandle);
 }
 
 void UToolMenus::PrivateStartupCallback()
 {
-	FCoreDelegates::OnPostEngineInit.Remove(InternalStartupCallbackHandle);
-	InternalStartupCallbackHandle.Reset();
+	FStartupCallbackState& State = GetStartupCallbackState();
+	FCoreDelegates::OnPostEngineInit.Remove(State.EngineInitHandle);
+	State.EngineInitHandle.Reset();
 
 	if (IsToolMenuUIEnabled() && UToolMenus::TryGet())
 	{
-		StartupCallbacks.Broadcast();
-		StartupCallbacks.Clear();
+		State.Callbacks.Broadcast();
+		State.Callbacks.Clear();
 	}
 }
 
-UToolMenu* UToolMenus::RegisterMenu(FName Name, const FName Parent, bool bWarnIfAlreadyRegistered)
+UToolMenu* UToolMenus::RegisterMenu(FName Name, const FName Parent, EMultiBoxType Type, bool bWarnIfAlreadyRegistered)
 {
 	if (UToolMenu* Existing = FindMenu(Name))
 	{
@@ -231,4 +246,14 @@ void UToolMenus::UnregisterOwnerInternal(FToolMenuOwner Owner)
 		Menu->Sections.RemoveAll([&Owner](const FToolMenuSection& Section)
 			{ return Section.Owner == Owner && Section.Blocks.IsEmpty(); });
 	}
+}
+
+bool UE::Headless::HasToolMenusStartupCallbackFor(const void* UserPointer)
+{
+	return GetStartupCallbackState().Callbacks.IsBoundToObject(UserPointer);
+}
+
+const FUIAction* UE::Headless::GetToolMenuEntryAction(const FToolMenuEntry& Entry)
+{
+	return FPopulateMenuBuilderWithToolMenuEntry::GetAction(Entry).GetUIAction();
 }

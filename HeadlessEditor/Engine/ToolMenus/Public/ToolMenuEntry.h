@@ -37,9 +37,6 @@ struct TOOLMENUS_API FToolMenuEntry
 	/** A toolbar button with a drop-down menu made by InMenuContentGenerator when it opens. */
 	static FToolMenuEntry InitComboButton(const FName InName, const FToolUIActionChoice& InAction, const FNewToolMenuChoice& InMenuContentGenerator, const TAttribute<FText>& InLabelOverride = TAttribute<FText>(), const TAttribute<FText>& InToolTipOverride = TAttribute<FText>(), const TAttribute<FSlateIcon>& InIconOverride = TAttribute<FSlateIcon>(), bool bInSimpleComboBox = false, FName InTutorialHighlightName = NAME_None);
 
-	/** Headless editor: the entry's own action, which the engine keeps private to the menu system. */
-	const FToolUIActionChoice& GetActionChoice() const { return Action; }
-
 	FName Name;
 	FToolMenuOwner Owner;
 	EMultiBlockType Type;
@@ -53,5 +50,8 @@ struct TOOLMENUS_API FToolMenuEntry
 	TAttribute<FSlateIcon> Icon;
 
 private:
+	friend class UToolMenus;
+	friend class FPopulateMenuBuilderWithToolMenuEntry;
+
 	FToolUIActionChoice Action;
 };

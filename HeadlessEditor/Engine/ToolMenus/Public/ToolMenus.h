@@ -48,31 +48,27 @@ public:
 	static void UnRegisterStartupCallback(const void* UserPointer);
 	static void UnRegisterStartupCallback(FDelegateHandle InHandle);
 
-	UToolMenu* RegisterMenu(FName Name, const FName Parent = NAME_None, bool bWarnIfAlreadyRegistered = true);
+	UToolMenu* RegisterMenu(FName Name, const FName Parent = NAME_None, EMultiBoxType Type = EMultiBoxType::Menu, bool bWarnIfAlreadyRegistered = true);
 	UToolMenu* ExtendMenu(const FName Name);
 	UToolMenu* FindMenu(const FName Name);
 	bool IsMenuRegistered(const FName Name) const;
 
-	void PushOwner(const FToolMenuOwner InOwner);
-	void PopOwner(const FToolMenuOwner InOwner);
 	FToolMenuOwner CurrentOwner() const;
 
-	/** Headless editor: whether a start-up callback bound to this object is still waiting. */
-	static bool HasStartupCallbackFor(const void* UserPointer);
-
 private:
-	void UnregisterOwnerInternal(FToolMenuOwner Owner);
+	friend struct FToolMenuOwnerScoped;
+
+	void PushOwner(const FToolMenuOwner InOwner);
+	void PopOwner(const FToolMenuOwner InOwner);
 	static void PrivateStartupCallback();
+	void UnregisterOwnerInternal(FToolMenuOwner Owner);
 
 	TArray<UToolMenu*> Menus;
 	TArray<FToolMenuOwner> OwnerStack;
-
-	static FSimpleMulticastDelegate StartupCallbacks;
-	static FDelegateHandle InternalStartupCallbackHandle;
 };
 
 /** Adds entries under an owner for as long as it lives. */
-struct TOOLMENUS_API FToolMenuOwnerScoped
+struct FToolMenuOwnerScoped
 {
 	FToolMenuOwnerScoped(const FToolMenuOwner InOwner)
 		: Owner(InOwner)

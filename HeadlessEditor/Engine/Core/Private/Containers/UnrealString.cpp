@@ -1,93 +1,19 @@
 #include "Containers/UnrealString.h"
 
+#include "Containers/UnrealStringFormat.h"
+#include "Containers/Utf8.h"
+
 #include <cstdarg>
 #include <cstdio>
 
 namespace
 {
-	std::u16string Utf8ToUtf16(std::string_view In)
+	/** A string of exactly these characters. */
+	FString MakeString(std::u16string_view View)
 	{
-		std::u16string Out;
-		Out.reserve(In.size());
-		for (SIZE_T Index = 0; Index < In.size();)
-		{
-			const uint8 Lead = static_cast<uint8>(In[Index]);
-			uint32 CodePoint = 0xFFFD;
-			SIZE_T Extra = 0;
-			if (Lead < 0x80)
-			{
-				CodePoint = Lead;
-			}
-			else if ((Lead >> 5) == 0x6)
-			{
-				CodePoint = Lead & 0x1F;
-				Extra = 1;
-			}
-			else if ((Lead >> 4) == 0xE)
-			{
-				CodePoint = Lead & 0x0F;
-				Extra = 2;
-			}
-			else if ((Lead >> 3) == 0x1E)
-			{
-				CodePoint = Lead & 0x07;
-				Extra = 3;
-			}
-			++Index;
-			for (SIZE_T Continuation = 0; Continuation < Extra && Index < In.size(); ++Continuation, ++Index)
-			{
-				CodePoint = (CodePoint << 6) | (static_cast<uint8>(In[Index]) & 0x3F);
-			}
-			if (CodePoint >= 0x10000)
-			{
-				CodePoint -= 0x10000;
-				Out.push_back(static_cast<char16_t>(0xD800 + (CodePoint >> 10)));
-				Out.push_back(static_cast<char16_t>(0xDC00 + (CodePoint & 0x3FF)));
-			}
-			else
-			{
-				Out.push_back(static_cast<char16_t>(CodePoint));
-			}
-		}
-		return Out;
-	}
-
-	std::string Utf16ToUtf8(std::u16string_view In)
-	{
-		std::string Out;
-		Out.reserve(In.size());
-		for (SIZE_T Index = 0; Index < In.size(); ++Index)
-		{
-			uint32 CodePoint = In[Index];
-			if (CodePoint >= 0xD800 && CodePoint < 0xDC00 && Index + 1 < In.size())
-			{
-				CodePoint = 0x10000 + ((CodePoint - 0xD800) << 10) + (In[Index + 1] - 0xDC00);
-				++Index;
-			}
-			if (CodePoint < 0x80)
-			{
-				Out.push_back(static_cast<char>(CodePoint));
-			}
-			else if (CodePoint < 0x800)
-			{
-				Out.push_back(static_cast<char>(0xC0 | (CodePoint >> 6)));
-				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
-			}
-			else if (CodePoint < 0x10000)
-			{
-				Out.push_back(static_cast<char>(0xE0 | (CodePoint >> 12)));
-				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 6) & 0x3F)));
-				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
-			}
-			else
-			{
-				Out.push_back(static_cast<char>(0xF0 | (CodePoint >> 18)));
-				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 12) & 0x3F)));
-				Out.push_back(static_cast<char>(0x80 | ((CodePoint >> 6) & 0x3F)));
-				Out.push_back(static_cast<char>(0x80 | (CodePoint & 0x3F)));
-			}
-		}
-		return Out;
+		FString Result;
+		Result.Append(View.data(), static_cast<int32>(View.size()));
+		return Result;
 	}
 
 	int32 CompareCharacters(std::u16string_view A, std::u16string_view B, ESearchCase::Type SearchCase)
@@ -131,17 +57,12 @@ FString::FString(const TCHAR* Str)
 }
 
 FString::FString(const ANSICHAR* Str)
-	: Data(Str ? Utf8ToUtf16(Str) : std::u16string())
+	: Data(Str ? UE::Core::Private::DecodeUtf8(Str) : std::u16string())
 {
 }
 
 FString::FString(int32 InCount, const TCHAR* InSrc)
 	: Data(InSrc, static_cast<SIZE_T>(InCount))
-{
-}
-
-FString::FString(std::u16string_view View)
-	: Data(View)
 {
 }
 
@@ -277,7 +198,7 @@ bool FString::EndsWith(const FString& InSuffix, ESearchCase::Type SearchCase) co
 
 FString FString::Left(int32 Count) const
 {
-	return FString(std::u16string_view(Data).substr(0, static_cast<SIZE_T>(Count < 0 ? 0 : Count)));
+	return MakeString(std::u16string_view(Data).substr(0, static_cast<SIZE_T>(Count < 0 ? 0 : Count)));
 }
 
 FString FString::LeftChop(int32 Count) const
@@ -288,13 +209,13 @@ FString FString::LeftChop(int32 Count) const
 FString FString::Right(int32 Count) const
 {
 	const int32 Clamped = Count < 0 ? 0 : (Count > Len() ? Len() : Count);
-	return FString(std::u16string_view(Data).substr(Data.size() - static_cast<SIZE_T>(Clamped)));
+	return MakeString(std::u16string_view(Data).substr(Data.size() - static_cast<SIZE_T>(Clamped)));
 }
 
 FString FString::RightChop(int32 Count) const
 {
 	const int32 Clamped = Count < 0 ? 0 : (Count > Len() ? Len() : Count);
-	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(Clamped)));
+	return MakeString(std::u16string_view(Data).substr(static_cast<SIZE_T>(Clamped)));
 }
 
 FString FString::Mid(int32 Start, int32 Count) const
@@ -307,7 +228,7 @@ FString FString::Mid(int32 Start, int32 Count) const
 	const int64 RequestedEnd = static_cast<int64>(Start) + Count;
 	const int32 ClampedStart = Start < 0 ? 0 : (Start > Len() ? Len() : Start);
 	const int32 End = static_cast<int32>(RequestedEnd < ClampedStart ? ClampedStart : (RequestedEnd > Len() ? Len() : RequestedEnd));
-	return FString(std::u16string_view(Data).substr(static_cast<SIZE_T>(ClampedStart), static_cast<SIZE_T>(End - ClampedStart)));
+	return MakeString(std::u16string_view(Data).substr(static_cast<SIZE_T>(ClampedStart), static_cast<SIZE_T>(End - ClampedStart)));
 }
 
 bool FString::Split(const FString& InS, FString* LeftS, FString* RightS, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
@@ -343,7 +264,7 @@ int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* pchDelim, 
 	{
 		const SIZE_T Found = Data.find(Delim, Start);
 		const SIZE_T End = Found == std::u16string::npos ? Data.size() : Found;
-		FString Piece(std::u16string_view(Data).substr(Start, End - Start));
+		const FString Piece = MakeString(std::u16string_view(Data).substr(Start, End - Start));
 		if (!InCullEmpty || !Piece.IsEmpty())
 		{
 			OutArray.Add(Piece);
@@ -384,7 +305,7 @@ FString FString::TrimStart() const
 	{
 		++Start;
 	}
-	return FString(std::u16string_view(Data).substr(Start));
+	return MakeString(std::u16string_view(Data).substr(Start));
 }
 
 FString FString::TrimEnd() const
@@ -394,7 +315,7 @@ FString FString::TrimEnd() const
 	{
 		--End;
 	}
-	return FString(std::u16string_view(Data).substr(0, End));
+	return MakeString(std::u16string_view(Data).substr(0, End));
 }
 
 FString FString::TrimStartAndEnd() const
@@ -557,16 +478,6 @@ FString FString::ChrN(int32 NumCharacters, TCHAR Char)
 	FString Result;
 	Result.Data.assign(static_cast<SIZE_T>(NumCharacters), Char);
 	return Result;
-}
-
-std::string FString::ToUtf8() const
-{
-	return Utf16ToUtf8(Data);
-}
-
-FString FString::FromUtf8(std::string_view Utf8)
-{
-	return FString(std::u16string_view(Utf8ToUtf16(Utf8)));
 }
 
 uint32 GetTypeHash(const FString& S)

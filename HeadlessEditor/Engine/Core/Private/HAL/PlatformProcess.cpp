@@ -1,6 +1,6 @@
 #include "HAL/PlatformProcess.h"
 
-#include "Headless/HeadlessDesktop.h"
+#include "HeadlessDesktop.h"
 
 namespace UE::Headless
 {

@@ -1,5 +1,7 @@
 #include "Internationalization/Text.h"
 
+#include "Internationalization/Internationalization.h"
+
 #include <cmath>
 #include <cstdio>
 #include <string>
@@ -308,13 +310,23 @@ bool FText::IdenticalTo(const FText& Other) const
 	return Data == Other.Data;
 }
 
-FText FText::MakeLocalized(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
+/** Makes the texts of LOCTEXT and NSLOCTEXT. There is no localisation data, so a text shows its source string. */
+class FTextCache
 {
-	auto NewData = std::make_shared<FData>();
-	NewData->Display = InTextLiteral;
-	NewData->Namespace = FString(InNamespace);
-	NewData->Key = FString(InKey);
-	return FText(NewData);
+public:
+	static FText FindOrCache(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
+	{
+		auto NewData = std::make_shared<FText::FData>();
+		NewData->Display = InTextLiteral;
+		NewData->Namespace = FString(InNamespace);
+		NewData->Key = FString(InKey);
+		return FText(NewData);
+	}
+};
+
+FText FInternationalization::ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
+{
+	return FTextCache::FindOrCache(InTextLiteral, InNamespace, InKey);
 }
 
 TOptional<FString> FTextInspector::GetNamespace(const FText& Text)

@@ -2,6 +2,7 @@
 
 #include "Containers/StringConv.h"
 #include "Containers/UnrealString.h"
+#include "Containers/UnrealStringFormat.h"
 #include "Logging/LogMacros.h"
 
 #include <cstdarg>

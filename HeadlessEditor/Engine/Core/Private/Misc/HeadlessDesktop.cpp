@@ -1,4 +1,4 @@
-#include "Headless/HeadlessDesktop.h"
+#include "HeadlessDesktop.h"
 
 namespace UE::Headless
 {

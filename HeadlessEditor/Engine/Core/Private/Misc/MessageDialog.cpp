@@ -1,6 +1,6 @@
 #include "Misc/MessageDialog.h"
 
-#include "Headless/HeadlessDesktop.h"
+#include "HeadlessDesktop.h"
 
 namespace UE::Headless
 {

@@ -1,5 +1,7 @@
 #include "Misc/Paths.h"
 
+#include "Containers/StringConv.h"
+
 #include <filesystem>
 
 namespace
@@ -54,11 +56,11 @@ FString FPaths::GetExtension(const FString& InPath, bool bIncludeDot)
 bool FPaths::FileExists(const FString& InPath)
 {
 	std::error_code Error;
-	return std::filesystem::is_regular_file(InPath.ToUtf8(), Error);
+	return std::filesystem::is_regular_file(TCHAR_TO_UTF8(*InPath), Error);
 }
 
 bool FPaths::DirectoryExists(const FString& InPath)
 {
 	std::error_code Error;
-	return std::filesystem::is_directory(InPath.ToUtf8(), Error);
+	return std::filesystem::is_directory(TCHAR_TO_UTF8(*InPath), Error);
 }

@@ -115,23 +115,3 @@ void FModuleManager::UnloadModulesAtShutdown()
 		UnloadModule(Info->Name, true);
 	}
 }
-
-TArray<FName> FModuleManager::GetLoadedModuleNames() const
-{
-	TArray<const FModuleInfo*> Loaded;
-	for (const std::shared_ptr<FModuleInfo>& Info : Modules)
-	{
-		if (Info->Module)
-		{
-			Loaded.Add(Info.get());
-		}
-	}
-	std::sort(Loaded.begin(), Loaded.end(), [](const FModuleInfo* A, const FModuleInfo* B)
-		{ return A->LoadOrder < B->LoadOrder; });
-	TArray<FName> Names;
-	for (const FModuleInfo* Info : Loaded)
-	{
-		Names.Add(Info->Name);
-	}
-	return Names;
-}

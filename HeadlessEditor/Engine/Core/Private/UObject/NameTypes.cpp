@@ -20,7 +20,8 @@ namespace
 {
 	std::u16string MakeComparisonKey(const FString& Name)
 	{
-		return Name.ToLower().GetStdString();
+		const FString Lower = Name.ToLower();
+		return std::u16string(*Lower, static_cast<SIZE_T>(Lower.Len()));
 	}
 
 	struct FNameTable

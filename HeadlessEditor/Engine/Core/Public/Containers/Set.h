@@ -2,6 +2,7 @@
 
 #include "Containers/Array.h"
 #include "CoreTypes.h"
+#include "Templates/UnrealTemplate.h"
 
 /** How a set finds the key of an element, hashes it and compares keys. */
 template <typename ElementType, typename InKeyType, bool bInAllowDuplicateKeys = false>
@@ -29,6 +30,32 @@ struct DefaultKeyFuncs : BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicat
 	static uint32 GetKeyHash(KeyInitType Key) { return GetTypeHash(Key); }
 };
 
+/** Identifies an element of a set. */
+class FSetElementId
+{
+public:
+	FSetElementId()
+		: Index(INDEX_NONE)
+	{
+	}
+
+	bool IsValidId() const { return Index != INDEX_NONE; }
+
+	friend bool operator==(const FSetElementId& A, const FSetElementId& B) { return A.Index == B.Index; }
+
+	int32 AsInteger() const { return Index; }
+
+	static FSetElementId FromInteger(int32 Integer) { return FSetElementId(Integer); }
+
+private:
+	explicit FSetElementId(int32 InIndex)
+		: Index(InIndex)
+	{
+	}
+
+	int32 Index;
+};
+
 /**
  * A hashed set: elements in an array and open-addressed buckets of indices, so adding an element
  * allocates nothing per element, as the engine's set does. Only what the editor uses is here.
@@ -39,25 +66,12 @@ class TSet
 public:
 	typedef InElementType ElementType;
 
-	void Add(const InElementType& Element)
-	{
-		if ((Elements.Num() + 1) * 2 > Buckets.Num())
-		{
-			Rehash(Buckets.Num() > 0 ? Buckets.Num() * 2 : 16);
-		}
-		// One hash: the probe ends at the matching element or at the free bucket it takes.
-		const int32 Mask = Buckets.Num() - 1;
-		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element))) & Mask;
-		for (; Buckets[Bucket] != INDEX_NONE; Bucket = (Bucket + 1) & Mask)
-		{
-			if (KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Buckets[Bucket]]), KeyFuncs::GetSetKey(Element)))
-			{
-				return;
-			}
-		}
-		Elements.Add(Element);
-		Buckets[Bucket] = Elements.Num() - 1;
-	}
+	/**
+	 * Adds the element, or replaces the element with the same key, as the engine does.
+	 * @return the element's id (valid until an element is removed)
+	 */
+	FSetElementId Add(const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return Emplace(InElement, bIsAlreadyInSetPtr); }
+	FSetElementId Add(InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return Emplace(MoveTemp(InElement), bIsAlreadyInSetPtr); }
 
 	bool Contains(typename KeyFuncs::KeyInitType Key) const { return FindIndex(Key) != INDEX_NONE; }
 
@@ -118,6 +132,38 @@ public:
 	}
 
 private:
+	template <typename ArgType>
+	FSetElementId Emplace(ArgType&& Element, bool* bIsAlreadyInSetPtr)
+	{
+		if ((Elements.Num() + 1) * 2 > Buckets.Num())
+		{
+			Rehash(Buckets.Num() > 0 ? Buckets.Num() * 2 : 16);
+		}
+		// One hash: the probe ends at the matching element or at the free bucket it takes.
+		const int32 Mask = Buckets.Num() - 1;
+		int32 Bucket = static_cast<int32>(KeyFuncs::GetKeyHash(KeyFuncs::GetSetKey(Element))) & Mask;
+		for (; Buckets[Bucket] != INDEX_NONE; Bucket = (Bucket + 1) & Mask)
+		{
+			const int32 Index = Buckets[Bucket];
+			if (KeyFuncs::Matches(KeyFuncs::GetSetKey(Elements[Index]), KeyFuncs::GetSetKey(Element)))
+			{
+				Elements[Index] = Forward<ArgType>(Element);
+				if (bIsAlreadyInSetPtr)
+				{
+					*bIsAlreadyInSetPtr = true;
+				}
+				return FSetElementId::FromInteger(Index);
+			}
+		}
+		Elements.Add(Forward<ArgType>(Element));
+		Buckets[Bucket] = Elements.Num() - 1;
+		if (bIsAlreadyInSetPtr)
+		{
+			*bIsAlreadyInSetPtr = false;
+		}
+		return FSetElementId::FromInteger(Elements.Num() - 1);
+	}
+
 	int32 FindIndex(typename KeyFuncs::KeyInitType Key) const
 	{
 		const int32 Bucket = FindBucket(Key);

@@ -19,7 +19,7 @@ public:
 	{
 	}
 	FStringView(const FString& Str)
-		: View(Str.GetStdString())
+		: View(*Str, static_cast<SIZE_T>(Str.Len()))
 	{
 	}
 
@@ -28,7 +28,7 @@ public:
 	bool IsEmpty() const { return View.empty(); }
 	bool Equals(FStringView Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const
 	{
-		return FString(View).Equals(FString(Other.View), SearchCase);
+		return FString(Len(), GetData()).Equals(FString(Other.Len(), Other.GetData()), SearchCase);
 	}
 
 	auto begin() const { return View.begin(); }

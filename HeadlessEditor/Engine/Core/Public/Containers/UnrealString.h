@@ -3,9 +3,7 @@
 #include "CoreTypes.h"
 #include "Containers/Array.h"
 
-#include <cstdarg>
 #include <string>
-#include <string_view>
 
 namespace ESearchCase
 {
@@ -38,8 +36,7 @@ public:
 	FString(const TCHAR* Str);
 	/** Narrow strings are read as UTF-8. */
 	FString(const ANSICHAR* Str);
-	FString(int32 InCount, const TCHAR* InSrc);
-	explicit FString(std::u16string_view View);
+	explicit FString(int32 InCount, const TCHAR* InSrc);
 	FString& operator=(const TCHAR* Str);
 
 	const TCHAR* operator*() const { return Data.c_str(); }
@@ -122,11 +119,6 @@ public:
 		return Result;
 	}
 
-	/** Headless-editor helpers: conversions to and from UTF-8 for printing and file names. */
-	std::string ToUtf8() const;
-	static FString FromUtf8(std::string_view Utf8);
-	const std::u16string& GetStdString() const { return Data; }
-
 	friend bool operator==(const FString& A, const FString& B) { return A.Equals(B, ESearchCase::IgnoreCase); }
 	friend bool operator==(const FString& A, const TCHAR* B) { return A.Equals(FString(B), ESearchCase::IgnoreCase); }
 	friend bool operator==(const TCHAR* A, const FString& B) { return B == A; }
@@ -170,12 +162,6 @@ struct CORE_API FChar
 	static bool IsAlpha(TCHAR Char) { return (Char >= u'a' && Char <= u'z') || (Char >= u'A' && Char <= u'Z'); }
 	static bool IsAlnum(TCHAR Char) { return IsAlpha(Char) || IsDigit(Char); }
 };
-
-namespace UE::Core::Private
-{
-	/** printf-style formatting over TCHARs: %s takes a const TCHAR*. */
-	CORE_API FString FormatV(const TCHAR* Format, va_list Args);
-}
 
 /** Lexical conversions used by the engine's string utilities. */
 CORE_API FString LexToString(int32 Value);

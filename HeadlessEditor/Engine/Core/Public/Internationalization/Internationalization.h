@@ -6,10 +6,7 @@
 class CORE_API FInternationalization
 {
 public:
-	static FText ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey)
-	{
-		return FText::MakeLocalized(InTextLiteral, InNamespace, InKey);
-	}
+	static FText ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey);
 };
 
 // Both macros take string literals only, as in the engine; LOCTEXT needs LOCTEXT_NAMESPACE.

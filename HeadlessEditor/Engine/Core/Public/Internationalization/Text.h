@@ -68,10 +68,8 @@ public:
 	bool EqualToCaseIgnored(const FText& Other) const;
 	bool IdenticalTo(const FText& Other) const;
 
-	/** Used by LOCTEXT and NSLOCTEXT. */
-	static FText MakeLocalized(const TCHAR* InTextLiteral, const TCHAR* InNamespace, const TCHAR* InKey);
-
 private:
+	friend class FTextCache;
 	friend class FTextInspector;
 
 	struct FData

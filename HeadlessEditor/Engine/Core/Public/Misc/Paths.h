@@ -23,7 +23,7 @@ public:
 	static bool FileExists(const FString& InPath);
 	static bool DirectoryExists(const FString& InPath);
 
-	/** Headless editor: where the project file is said to be. */
+	/** Sets the project file path the editor reports. */
 	static void SetProjectFilePath(const FString& NewGameProjectFilePath);
 
 private:

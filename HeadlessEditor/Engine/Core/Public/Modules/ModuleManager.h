@@ -60,9 +60,6 @@ public:
 	/** Called by IMPLEMENT_MODULE when the module's library is loaded into the process. */
 	static void RegisterStaticallyLinkedModule(const FName InModuleName, FInitializeModuleFunctionPtr InInitializerFunction);
 
-	/** Names of the loaded modules, in load order. */
-	TArray<FName> GetLoadedModuleNames() const;
-
 private:
 	struct FModuleInfo
 	{

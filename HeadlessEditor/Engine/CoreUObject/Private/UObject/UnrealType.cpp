@@ -1,5 +1,8 @@
 #include "UObject/UnrealType.h"
 
+#include "Containers/StringConv.h"
+#include "UObject/EnumProperty.h"
+#include "UObject/TextProperty.h"
 #include "UObject/Package.h"
 #include "Templates/Casts.h"
 
@@ -136,18 +139,18 @@ namespace
 				++Buffer;
 			}
 		}
-		const std::string Utf8 = FString(Start).ToUtf8();
+		const FTCHARToUTF8 Utf8(Start, static_cast<int32>(Buffer - Start));
 		if constexpr (std::is_floating_point_v<T>)
 		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtod(Utf8.c_str(), nullptr));
+			*static_cast<T*>(Data) = static_cast<T>(std::strtod(Utf8.Get(), nullptr));
 		}
 		else if constexpr (std::is_same_v<T, uint64>)
 		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtoull(Utf8.c_str(), nullptr, 0));
+			*static_cast<T*>(Data) = static_cast<T>(std::strtoull(Utf8.Get(), nullptr, 0));
 		}
 		else
 		{
-			*static_cast<T*>(Data) = static_cast<T>(std::strtoll(Utf8.c_str(), nullptr, 10));
+			*static_cast<T*>(Data) = static_cast<T>(std::strtoll(Utf8.Get(), nullptr, 10));
 		}
 		return Buffer;
 	}

@@ -6,6 +6,8 @@
 #include "UObject/Object.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/UnrealType.h"
+#include "UObject/EnumProperty.h"
+#include "UObject/TextProperty.h"
 #include "Templates/SubclassOf.h"
 
 namespace UE::CoreUObject::Private

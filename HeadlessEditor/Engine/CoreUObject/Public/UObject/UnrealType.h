@@ -227,20 +227,6 @@ HEADLESS_DECLARE_PROPERTY(FDoubleProperty, double)
 HEADLESS_DECLARE_PROPERTY(FStrProperty, FString)
 HEADLESS_DECLARE_PROPERTY(FNameProperty, FName)
 
-/** FText compares by its display string here; the engine compares identity and then the string. */
-class COREUOBJECT_API FTextProperty : public TProperty<FText>
-{
-public:
-	using TProperty<FText>::TProperty;
-	virtual FString GetClassName() const override;
-	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
-	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-
-protected:
-	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const override;
-	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override;
-};
-
 /** A uint8, or a TEnumAsByte when Enum is set. */
 class COREUOBJECT_API FByteProperty : public TProperty<uint8>
 {
@@ -255,32 +241,6 @@ public:
 protected:
 	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const override;
 	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override;
-};
-
-/** A UENUM enum class member; the underlying property reads and writes its integer value. */
-class COREUOBJECT_API FEnumProperty : public FProperty
-{
-public:
-	FEnumProperty(UStruct* InOwner, const TCHAR* InName, EPropertyFlags InFlags, int32 InOffset, UEnum* InEnum, int32 InSize);
-	virtual ~FEnumProperty() override;
-	virtual FString GetClassName() const override;
-	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
-	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	virtual void InitializeValue(void* Dest) const override;
-	virtual void DestroyValue(void* Dest) const override {}
-	UEnum* GetEnum() const { return Enum; }
-	FProperty* GetUnderlyingProperty() const { return UnderlyingProp; }
-	int64 GetValue(const void* Data) const;
-	void SetValue(void* Data, int64 Value) const;
-
-protected:
-	virtual void CopyValuesInternal(void* Dest, void const* Src, int32 Count) const override;
-	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const override;
-	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override;
-
-private:
-	UEnum* Enum = nullptr;
-	FProperty* UnderlyingProp = nullptr;
 };
 
 /** A pointer to an object of PropertyClass (raw T* or TObjectPtr<T>: both hold one pointer). */

@@ -1,3 +1,4 @@
+#include "Containers/StringConv.h"
 #include "GameFramework/SaveGame.h"
 #include "Kismet/GameplayStatics.h"
 #include "PlatformFeatures.h"
@@ -45,18 +46,14 @@ namespace
 			It->ExportTextItem_Direct(Value, It->ContainerPtrToValuePtr<void>(SaveGameObject), nullptr, SaveGameObject, 0);
 			Text += It->GetName() + TEXT("=") + EscapeLine(Value) + TEXT("\n");
 		}
-		const std::string Utf8 = Text.ToUtf8();
-		TArray<uint8> Data;
-		for (const char Byte : Utf8)
-		{
-			Data.Add(static_cast<uint8>(Byte));
-		}
-		return Data;
+		const FTCHARToUTF8 Utf8(*Text, Text.Len());
+		return TArray<uint8>(reinterpret_cast<const uint8*>(Utf8.Get()), Utf8.Length());
 	}
 
 	USaveGame* LoadGameFromMemory(const TArray<uint8>& Data)
 	{
-		const FString Text = FString::FromUtf8(std::string_view(reinterpret_cast<const char*>(Data.GetData()), Data.Num()));
+		const FUTF8ToTCHAR Converted(reinterpret_cast<const ANSICHAR*>(Data.GetData()), Data.Num());
+		const FString Text(Converted.Length(), Converted.Get());
 		TArray<FString> Lines;
 		Text.ParseIntoArray(Lines, TEXT("\n"), true);
 		if (Lines.Num() == 0)

@@ -1,4 +1,5 @@
-#include "Headless/HeadlessSaveGames.h"
+#include "HeadlessSaveGames.h"
+#include "Containers/StringConv.h"
 #include "PlatformFeatures.h"
 #include "SaveGameSystem.h"
 
@@ -90,5 +91,6 @@ FString UE::Headless::DescribeSaveGame(const FString& SlotName, int32 UserIndex)
 	{
 		return FString();
 	}
-	return FString::FromUtf8(std::string_view(reinterpret_cast<const char*>(Data.GetData()), Data.Num()));
+	const FUTF8ToTCHAR Converted(reinterpret_cast<const ANSICHAR*>(Data.GetData()), Data.Num());
+	return FString(Converted.Length(), Converted.Get());
 }

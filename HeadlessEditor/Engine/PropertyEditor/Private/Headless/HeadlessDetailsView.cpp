@@ -1,4 +1,4 @@
-#include "Headless/HeadlessDetailsView.h"
+#include "HeadlessDetailsView.h"
 
 #include "DetailLayoutBuilderImpl.h"
 #include "DetailPropertyNode.h"
@@ -8,6 +8,8 @@
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
+
+using namespace UE::Headless;
 
 namespace
 {

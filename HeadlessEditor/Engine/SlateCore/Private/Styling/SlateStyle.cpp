@@ -89,36 +89,6 @@ void FSlateStyleSet::SetCoreContentRoot(const FString& InCoreContentRootDir)
 	CoreContentRootDir = InCoreContentRootDir;
 }
 
-FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath, const TCHAR* Extension)
-{
-	return (CoreContentRootDir / RelativePath) + Extension;
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
-{
-	return RootToCoreContentDir(FString(RelativePath), Extension);
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension)
-{
-	return RootToCoreContentDir(FString(RelativePath), Extension);
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const ANSICHAR* RelativePath)
-{
-	return RootToCoreContentDir(FString(RelativePath), TEXT(""));
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const WIDECHAR* RelativePath)
-{
-	return RootToCoreContentDir(FString(RelativePath), TEXT(""));
-}
-
-FString FSlateStyleSet::RootToCoreContentDir(const FString& RelativePath)
-{
-	return RootToCoreContentDir(RelativePath, TEXT(""));
-}
-
 const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSICHAR* Specifier, const ISlateStyle* RequestingStyle) const
 {
 	FSlateBrush* const* Found = BrushResources.Find(Join(PropertyName, Specifier));

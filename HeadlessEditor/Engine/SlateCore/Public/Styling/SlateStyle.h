@@ -25,12 +25,6 @@ public:
 	virtual FString GetContentRootDir() const { return ContentRootDir; }
 
 	virtual void SetCoreContentRoot(const FString& InCoreContentRootDir);
-	virtual FString RootToCoreContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension);
-	virtual FString RootToCoreContentDir(const WIDECHAR* RelativePath, const TCHAR* Extension);
-	virtual FString RootToCoreContentDir(const FString& RelativePath, const TCHAR* Extension);
-	virtual FString RootToCoreContentDir(const ANSICHAR* RelativePath);
-	virtual FString RootToCoreContentDir(const WIDECHAR* RelativePath);
-	virtual FString RootToCoreContentDir(const FString& RelativePath);
 
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const ISlateStyle* RequestingStyle = nullptr) const override;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;

@@ -4,7 +4,7 @@
 #include "EditorViewportClient.h"
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
-#include "Headless/HeadlessLevelEditor.h"
+#include "HeadlessLevelEditor.h"
 #include "HeadlessLevelEditorState.h"
 #include "LevelEditorViewport.h"
 #include "Selection.h"
@@ -16,17 +16,17 @@ FHeadlessLevelEditorState& FHeadlessLevelEditorState::Get()
 	return State;
 }
 
-void HeadlessLevelEditor::SetActiveViewport(FViewport* Viewport)
+void UE::Headless::SetActiveViewport(FViewport* Viewport)
 {
 	FHeadlessLevelEditorState::Get().ActiveViewport = Viewport;
 }
 
-int32 HeadlessLevelEditor::GetRedrawAllViewportsCount()
+int32 UE::Headless::GetRedrawAllViewportsCount()
 {
 	return FHeadlessLevelEditorState::Get().RedrawAllViewportsCount;
 }
 
-TArray<AActor*> HeadlessLevelEditor::GetFloatingPropertyWindowsActors()
+TArray<AActor*> UE::Headless::GetFloatingPropertyWindowsActors()
 {
 	TArray<AActor*> Actors;
 	for (const TWeakObjectPtr<AActor>& Actor : FHeadlessLevelEditorState::Get().FloatingPropertyWindowsActors)
@@ -39,12 +39,12 @@ TArray<AActor*> HeadlessLevelEditor::GetFloatingPropertyWindowsActors()
 	return Actors;
 }
 
-int32 HeadlessLevelEditor::GetFloatingPropertyWindowsUpdateCount()
+int32 UE::Headless::GetFloatingPropertyWindowsUpdateCount()
 {
 	return FHeadlessLevelEditorState::Get().FloatingPropertyWindowsUpdateCount;
 }
 
-void HeadlessLevelEditor::Reset()
+void UE::Headless::ResetLevelEditor()
 {
 	FHeadlessLevelEditorState::Get() = FHeadlessLevelEditorState();
 }

@@ -187,19 +187,6 @@ bool FTransaction::IsTransient() const
 	return true;
 }
 
-TArray<AActor*> FTransaction::GetSpawnedActors() const
-{
-	TArray<AActor*> Actors;
-	for (const TWeakObjectPtr<AActor>& Actor : SpawnedActors)
-	{
-		if (Actor.IsValid())
-		{
-			Actors.Add(Actor.Get());
-		}
-	}
-	return Actors;
-}
-
 void FTransaction::Finalize()
 {
 	SpawnedActors.Reset();

@@ -1,4 +1,4 @@
-#include "Headless/HeadlessContentBrowser.h"
+#include "HeadlessContentBrowser.h"
 
 #include "Factories/Factory.h"
 #include "UObject/Class.h"

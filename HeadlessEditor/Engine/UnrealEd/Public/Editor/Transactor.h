@@ -32,16 +32,12 @@ public:
 
 	/** The text the editor's Undo entry shows. */
 	FText GetTitle() const { return Title; }
-	const FString& GetContextName() const { return Context; }
 	int32 GetRecordCount() const { return Records.Num(); }
 	/** Whether no recorded object changed, so the transaction leaves no undo step. */
 	bool IsTransient() const;
 	/** The objects this transaction recorded, in the order they were first changed. */
 	void GetTransactionObjects(TArray<UObject*>& Objects) const;
 	bool ContainsObject(const UObject* Object) const;
-
-	/** Headless editor only: the actors added to a level while the transaction was open. */
-	TArray<AActor*> GetSpawnedActors() const;
 
 	/** Closes the transaction: notes which actors it added to the levels it recorded. */
 	void Finalize();

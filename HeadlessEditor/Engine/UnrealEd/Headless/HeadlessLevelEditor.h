@@ -9,7 +9,7 @@ class FViewport;
  * Headless editor only. The level editor module owns the viewports and the floating details
  * panels in the engine; the headless editor keeps that state here so tests can set and read it.
  */
-namespace HeadlessLevelEditor
+namespace UE::Headless
 {
 	/** Makes Viewport the one GEditor->GetActiveViewport() returns; null means no viewport is active. */
 	UNREALED_API void SetActiveViewport(FViewport* Viewport);
@@ -20,5 +20,5 @@ namespace HeadlessLevelEditor
 	/** How often the floating property windows were updated since the editor started. */
 	UNREALED_API int32 GetFloatingPropertyWindowsUpdateCount();
 	/** Forgets everything above, as a fresh editor starts. */
-	UNREALED_API void Reset();
+	UNREALED_API void ResetLevelEditor();
 }

@@ -3,14 +3,14 @@
 #include "Editor.h"
 #include "Editor/UnrealEdEngine.h"
 #include "Engine/World.h"
-#include "Headless/HeadlessLevelEditor.h"
+#include "HeadlessLevelEditor.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
 #include "UnrealEdGlobals.h"
 
-namespace HeadlessEditorEngine
+namespace UE::Headless
 {
-	void Create()
+	void CreateEditorEngine()
 	{
 		checkf(!GEditor, TEXT("The headless editor engine already exists"));
 		UUnrealEdEngine* Engine = NewObject<UUnrealEdEngine>(GetTransientPackage(), TEXT("UnrealEdEngine_0"));
@@ -19,13 +19,13 @@ namespace HeadlessEditorEngine
 		GEditor = Engine;
 		GEngine = Engine;
 		Engine->Trans = Engine->CreateTrans();
-		HeadlessLevelEditor::Reset();
+		ResetLevelEditor();
 		// A fresh editor opens an untitled map in a temporary package.
 		UWorld* EditorWorld = UWorld::CreateWorld(EWorldType::Editor, true, FName(TEXT("Untitled_1")), CreatePackage(TEXT("/Temp/Untitled_1")));
 		Engine->GetEditorWorldContext().SetCurrentWorld(EditorWorld);
 	}
 
-	void Destroy()
+	void DestroyEditorEngine()
 	{
 		if (GEditor)
 		{
@@ -36,7 +36,7 @@ namespace HeadlessEditorEngine
 				GEditor->GetEditorWorldContext().SetCurrentWorld(nullptr);
 			}
 		}
-		HeadlessLevelEditor::Reset();
+		ResetLevelEditor();
 		GEditor = nullptr;
 		GUnrealEd = nullptr;
 		GEngine = nullptr;
