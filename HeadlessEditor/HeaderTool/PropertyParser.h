@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ReflectionModel.h"
+#include "TokenReader.h"
+
+#include <set>
+#include <string>
+
+namespace HeaderTool
+{
+	/**
+	 * Reads the member declaration after UPROPERTY(...) up to its ';' into Property's name and type.
+	 * Returns false for a declaration that is not reflected.
+	 */
+	bool ParsePropertyDeclaration(FTokenReader& Reader, const std::set<std::string>& KnownEnums, FPropertyDecl& Property);
+}
