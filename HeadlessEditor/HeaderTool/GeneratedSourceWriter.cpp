@@ -135,7 +135,15 @@ namespace
 		/** The statics struct whose AddProperties adds the type's own properties to its UStruct. */
 		void WriteStatics(const FTypeDecl& Type)
 		{
-			Out << "struct " << StaticsName(Type) << "\n{\n\tstatic void AddProperties(UStruct* Owner)\n\t{\n";
+			Out << "struct " << StaticsName(Type) << "\n{\n";
+			for (const FPropertyDecl& Property : Type.Properties)
+			{
+				if (Property.Type.bBitfield)
+				{
+					WriteSetBit(Type, Property);
+				}
+			}
+			Out << "\tstatic void AddProperties(UStruct* Owner)\n\t{\n";
 			if (!Type.Properties.empty())
 			{
 				Out << "\t\tFProperty* Property = nullptr;\n";
@@ -147,10 +155,35 @@ namespace
 			Out << "\t}\n};\n\n";
 		}
 
+		static std::string SetBitName(const FPropertyDecl& Property)
+		{
+			return Property.Name + "_SetBit";
+		}
+
+		/**
+		 * A bitfield has no offset to take: its property finds the bit by letting this function set it in a
+		 * blank owner, as the engine's generated code does. The blank is no object of the class, so the
+		 * sanitizer's check of the object's dynamic type is off for it.
+		 */
+		void WriteSetBit(const FTypeDecl& Owner, const FPropertyDecl& Property)
+		{
+			Out << "\t__attribute__((no_sanitize(\"vptr\"))) static void " << SetBitName(Property) << "(void* Object)\n\t{\n";
+			Out << "\t\tstatic_cast<" << Owner.Name << "*>(Object)->" << Property.Name << " = 1;\n\t}\n";
+		}
+
+		/** Where the member is: its offset, or what its property needs to find a bitfield's bit. */
+		static std::string PropertyLocation(const FTypeDecl& Owner, const FPropertyDecl& Property)
+		{
+			if (Property.Type.bBitfield)
+			{
+				return "sizeof(" + Property.Type.CppType + "), sizeof(" + Owner.Name + "), &" + SetBitName(Property);
+			}
+			return "static_cast<int32>(offsetof(" + Owner.Name + ", " + Property.Name + "))";
+		}
+
 		void WriteAddProperty(const FTypeDecl& Owner, const FPropertyDecl& Property)
 		{
-			const std::string Offset = "static_cast<int32>(offsetof(" + Owner.Name + ", " + Property.Name + "))";
-			Out << "\t\tProperty = " << PropertyExpression(Property.Type, "Owner", Quote(Property.Name), PropertyFlags(Property), Offset) << ";\n";
+			Out << "\t\tProperty = " << PropertyExpression(Property.Type, "Owner", Quote(Property.Name), PropertyFlags(Property), PropertyLocation(Owner, Property)) << ";\n";
 			FKeyValueList Meta;
 			const std::string Category = Property.Specifiers.Get("Category");
 			if (!Category.empty())

@@ -201,10 +201,8 @@ void HeaderTool::FHeaderParser::ParsePropertyMacro(FTypeDecl& Type, const std::s
 	Property.Access = Access;
 	Property.Line = Reader.Next().Line;
 	Property.Specifiers = ParseMacroSpecifiers();
-	if (ParsePropertyDeclaration(Reader, KnownEnums, Property))
-	{
-		Type.Properties.push_back(std::move(Property));
-	}
+	ParsePropertyDeclaration(Reader, KnownEnums, Property);
+	Type.Properties.push_back(std::move(Property));
 }
 
 bool HeaderTool::FHeaderParser::IsInitializerConstructor(const FTypeDecl& Type) const

@@ -138,8 +138,8 @@ std::string HeaderTool::PropertyFlags(const FPropertyDecl& Property)
 	return "EPropertyFlags(" + AccessFlag(Property.Access) + SpecifierFlags(Property.Specifiers) + TypeFlags(Property.Type) + ")";
 }
 
-std::string HeaderTool::PropertyExpression(const FPropertyType& Type, const std::string& Owner, const std::string& Name, const std::string& Flags, const std::string& Offset)
+std::string HeaderTool::PropertyExpression(const FPropertyType& Type, const std::string& Owner, const std::string& Name, const std::string& Flags, const std::string& Location)
 {
 	const std::string Extra = ExtraArguments(Type, Owner, Name);
-	return std::string("new ") + PropertyClass(Type.Kind) + "(" + Owner + ", " + Name + ", " + Flags + ", " + Offset + (Extra.empty() ? "" : ", " + Extra) + ")";
+	return std::string("new ") + PropertyClass(Type.Kind) + "(" + Owner + ", " + Name + ", " + Flags + ", " + Location + (Extra.empty() ? "" : ", " + Extra) + ")";
 }

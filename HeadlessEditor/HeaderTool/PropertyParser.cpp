@@ -1,7 +1,6 @@
 #include "PropertyParser.h"
 
 #include <cctype>
-#include <iostream>
 #include <map>
 
 namespace
@@ -14,6 +13,8 @@ namespace
 		/** The type and the name. */
 		std::vector<FToken> Declarator;
 		bool bBitfield = false;
+		/** The tokens between the bitfield's ':' and its initializer or ';'. */
+		std::vector<FToken> BitfieldWidth;
 	};
 
 	bool IsSymbol(const FToken& Token, const char* Text)
@@ -38,6 +39,7 @@ namespace
 		FDeclaration Result;
 		int Angle = 0;
 		bool bCut = false;
+		bool bInWidth = false;
 		while (!Reader.AtEnd() && Reader.Peek().Text != ";")
 		{
 			const FToken& Token = Reader.Next();
@@ -52,18 +54,48 @@ namespace
 			else if (Angle == 0 && (IsSymbol(Token, "=") || IsSymbol(Token, "{") || IsSymbol(Token, ":")))
 			{
 				Result.bBitfield = Result.bBitfield || Token.Text == ":";
+				bInWidth = Token.Text == ":";
 				bCut = true;
 				if (Token.Text == "{")
 				{
 					Reader.ReadBalanced("{", "}");
 				}
+				continue;
 			}
-			if (!bCut && !IsIgnoredKeyword(Token))
+			if (bInWidth)
+			{
+				Result.BitfieldWidth.push_back(Token);
+			}
+			else if (!bCut && !IsIgnoredKeyword(Token))
 			{
 				Result.Declarator.push_back(Token);
 			}
 		}
 		Reader.Skip();
+		return Result;
+	}
+
+	/**
+	 * A one-bit bitfield of an unsigned integer is a bool to reflection, stored in a byte whatever its
+	 * integer, as the engine's header tool has it; any other bitfield is refused as it refuses them.
+	 */
+	FPropertyType ParseBitfieldType(const FDeclaration& Declaration, const std::string& File, const FPropertyDecl& Property)
+	{
+		const std::vector<FToken>& Width = Declaration.BitfieldWidth;
+		if (Width.size() != 1 || Width[0].Text != "1")
+		{
+			Fail(File, Property.Line, "bitfield " + Property.Name + " must be one bit wide");
+		}
+		static const std::set<std::string> UnsignedIntegers = {"uint8", "uint16", "uint32", "uint64"};
+		const std::vector<FToken>& Type = Declaration.Declarator;
+		if (Type.size() != 1 || !UnsignedIntegers.count(Type[0].Text))
+		{
+			Fail(File, Property.Line, "bitfield " + Property.Name + " must be of an unsigned integer type");
+		}
+		FPropertyType Result;
+		Result.Kind = EPropertyKind::Bool;
+		Result.CppType = "uint8";
+		Result.bBitfield = true;
 		return Result;
 	}
 
@@ -215,7 +247,7 @@ namespace
 	};
 }
 
-bool HeaderTool::ParsePropertyDeclaration(FTokenReader& Reader, const std::set<std::string>& KnownEnums, FPropertyDecl& Property)
+void HeaderTool::ParsePropertyDeclaration(FTokenReader& Reader, const std::set<std::string>& KnownEnums, FPropertyDecl& Property)
 {
 	FDeclaration Declaration = ReadDeclaration(Reader);
 	std::vector<FToken>& Declarator = Declaration.Declarator;
@@ -225,11 +257,5 @@ bool HeaderTool::ParsePropertyDeclaration(FTokenReader& Reader, const std::set<s
 	}
 	Property.Name = Declarator.back().Text;
 	Declarator.pop_back();
-	if (Declaration.bBitfield)
-	{
-		std::cerr << Reader.GetFile() << ":" << Property.Line << ": warning: bitfield " << Property.Name << " is not reflected (full bool properties only)\n";
-		return false;
-	}
-	Property.Type = FPropertyTypeParser(Declarator, Reader.GetFile(), Property.Line, KnownEnums).ParseAll(Property.Name);
-	return true;
+	Property.Type = Declaration.bBitfield ? ParseBitfieldType(Declaration, Reader.GetFile(), Property) : FPropertyTypeParser(Declarator, Reader.GetFile(), Property.Line, KnownEnums).ParseAll(Property.Name);
 }

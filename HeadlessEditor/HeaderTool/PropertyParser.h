@@ -8,9 +8,6 @@
 
 namespace HeaderTool
 {
-	/**
-	 * Reads the member declaration after UPROPERTY(...) up to its ';' into Property's name and type.
-	 * Returns false for a declaration that is not reflected.
-	 */
-	bool ParsePropertyDeclaration(FTokenReader& Reader, const std::set<std::string>& KnownEnums, FPropertyDecl& Property);
+	/** Reads the member declaration after UPROPERTY(...) up to its ';' into Property's name and type. */
+	void ParsePropertyDeclaration(FTokenReader& Reader, const std::set<std::string>& KnownEnums, FPropertyDecl& Property);
 }

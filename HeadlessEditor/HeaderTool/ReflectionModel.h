@@ -50,6 +50,8 @@ namespace HeaderTool
 		/** The named type of an enum, struct, object or class property. */
 		std::string TypeName;
 		bool bObjectPtr = false;
+		/** A one-bit bitfield of an unsigned integer, reflected as a bool as the engine's header tool does. */
+		bool bBitfield = false;
 		/** The element type of an array. */
 		std::unique_ptr<FPropertyType> Inner;
 	};
