@@ -1,6 +1,5 @@
 #include "KyroMediaOutput.h"
 
-#include "Components/SceneComponent.h"
 #include "CoreGlobals.h"
 #include "HeadlessMediaOutputs.h"
 #include "Misc/ITransaction.h"
@@ -24,13 +23,6 @@ namespace
 		Call.bInTransaction = GUndo != nullptr;
 		Call.TransactionTitle = GUndo ? GUndo->GetContext().Title : FText::GetEmpty();
 	}
-}
-
-AKyroMediaOutput::AKyroMediaOutput(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, RenderTarget(nullptr)
-{
-	RootComponent = CreateDefaultSubobject<USceneComponent>(TEXT("Root"));
 }
 
 void AKyroMediaOutput::Start()
