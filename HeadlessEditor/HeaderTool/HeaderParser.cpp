@@ -103,6 +103,14 @@ void HeaderTool::FHeaderParser::ParseType(FTypeDecl& Type)
 	{
 		Reader.Fail("expected 'class' or 'struct' after reflection macro");
 	}
+	ParseTypeName(Type);
+	ParseBaseList(Type);
+	Reader.ExpectSymbol("{");
+	ParseBody(Type, Keyword == "struct" ? "public" : "private");
+}
+
+void HeaderTool::FHeaderParser::ParseTypeName(FTypeDecl& Type)
+{
 	// An export macro stands between the keyword and the name.
 	while (Reader.Peek().Kind == ETokenKind::Identifier && Reader.Peek(1).Kind == ETokenKind::Identifier && Reader.Peek(1).Text != "final")
 	{
@@ -113,21 +121,25 @@ void HeaderTool::FHeaderParser::ParseType(FTypeDecl& Type)
 	{
 		Reader.Skip();
 	}
-	if (Reader.Peek().Text == ":")
+}
+
+void HeaderTool::FHeaderParser::ParseBaseList(FTypeDecl& Type)
+{
+	if (Reader.Peek().Text != ":")
+	{
+		return;
+	}
+	Reader.Skip();
+	if (IsAccessSpecifier(Reader.Peek().Text))
 	{
 		Reader.Skip();
-		if (IsAccessSpecifier(Reader.Peek().Text))
-		{
-			Reader.Skip();
-		}
-		Type.Super = Reader.Expect(ETokenKind::Identifier, "base type");
-		while (Reader.Peek().Text != "{" && !Reader.AtEnd())
-		{
-			Reader.Skip();
-		}
 	}
-	Reader.ExpectSymbol("{");
-	ParseBody(Type, Keyword == "struct" ? "public" : "private");
+	// The first base is the reflected one; others (interfaces, mixins) are not recorded.
+	Type.Super = Reader.Expect(ETokenKind::Identifier, "base type");
+	while (Reader.Peek().Text != "{" && !Reader.AtEnd())
+	{
+		Reader.Skip();
+	}
 }
 
 void HeaderTool::FHeaderParser::ParseBody(FTypeDecl& Type, std::string Access)

@@ -27,6 +27,10 @@ namespace HeaderTool
 
 		/** The class or struct declaration after its macro, body included. */
 		void ParseType(FTypeDecl& Type);
+		/** The name, past an export macro and a final. */
+		void ParseTypeName(FTypeDecl& Type);
+		/** The base after ':', if any. */
+		void ParseBaseList(FTypeDecl& Type);
 		void ParseBody(FTypeDecl& Type, std::string Access);
 		/** One token or construct at the body's own level. */
 		void ParseBodyMember(FTypeDecl& Type, std::string& Access);
