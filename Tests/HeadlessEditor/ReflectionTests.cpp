@@ -1,12 +1,16 @@
 #include "Components/SceneCaptureComponent.h"
 #include "Components/SceneCaptureComponent2D.h"
 #include "Components/SceneComponent.h"
+#include "DetailsViewDriver.h"
 #include "Engine/Engine.h"
 #include "Engine/Texture.h"
 #include "Engine/TextureRenderTarget2D.h"
+#include "HeadlessEditorSession.h"
+#include "PropertyHandle.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
+#include "Widgets/Input/SCheckBox.h"
 
 #include <gtest/gtest.h>
 
@@ -24,9 +28,59 @@ namespace
 	{
 		return CastField<PropertyType>(Struct->FindPropertyByName(FName(Name)));
 	}
+
+	/** The two neighbouring bitfields of a scene capture, read by the compiler's own code. */
+	struct FCaptureFlags
+	{
+		bool bEveryFrame = false;
+		bool bOnMovement = false;
+
+		static FCaptureFlags Of(const USceneCaptureComponent* Capture)
+		{
+			return {Capture->bCaptureEveryFrame != 0, Capture->bCaptureOnMovement != 0};
+		}
+		static void Set(USceneCaptureComponent* Capture, bool bEveryFrame, bool bOnMovement)
+		{
+			Capture->bCaptureEveryFrame = bEveryFrame;
+			Capture->bCaptureOnMovement = bOnMovement;
+		}
+		bool operator==(const FCaptureFlags& Other) const { return bEveryFrame == Other.bEveryFrame && bOnMovement == Other.bOnMovement; }
+	};
+
+	std::ostream& operator<<(std::ostream& Stream, const FCaptureFlags& Flags)
+	{
+		return Stream << "{EveryFrame " << Flags.bEveryFrame << ", OnMovement " << Flags.bOnMovement << "}";
+	}
+
+	FBoolProperty* FindCaptureFlag(const TCHAR* Name)
+	{
+		return FindTyped<FBoolProperty>(USceneCaptureComponent::StaticClass(), Name);
+	}
+
+	/** A word whose one-bit field sits in its third byte, between two wide fields. */
+	struct FWideFlags
+	{
+		uint32 Low : 17;
+		uint32 bHigh : 1;
+		uint32 Rest : 14;
+	};
+
+	void SetHighBit(void* Object)
+	{
+		static_cast<FWideFlags*>(Object)->bHigh = 1;
+	}
+
+	void SetNoBit(void* Object)
+	{
+	}
+
+	void SetTwoBits(void* Object)
+	{
+		static_cast<FWideFlags*>(Object)->Low = 3;
+	}
 }
 
-TEST(ReflectionTests, RenderTargetClassDefaultsAreReadableThroughProperties)
+TEST(Reflection, RenderTargetClassDefaultsAreReadableThroughProperties)
 {
 	const UObject* Defaults = UTextureRenderTarget2D::StaticClass()->GetDefaultObject();
 	ASSERT_NE(Defaults, nullptr);
@@ -55,7 +109,7 @@ TEST(ReflectionTests, RenderTargetClassDefaultsAreReadableThroughProperties)
 	EXPECT_EQ(ColorText, TEXT("(R=0.000000,G=0.000000,B=0.000000,A=1.000000)"));
 }
 
-TEST(ReflectionTests, ClassesKnowTheirSuperFlagsAndPackage)
+TEST(Reflection, ClassesKnowTheirSuperFlagsAndPackage)
 {
 	UClass* Class = UTextureRenderTarget2D::StaticClass();
 	EXPECT_EQ(Class->GetName(), TEXT("TextureRenderTarget2D"));
@@ -69,20 +123,20 @@ TEST(ReflectionTests, ClassesKnowTheirSuperFlagsAndPackage)
 	EXPECT_EQ(UEngine::StaticClass()->ClassConfigName, FName(TEXT("Engine")));
 }
 
-TEST(ReflectionTests, PropertiesIterateOwnFirstThenInherited)
+TEST(Reflection, PropertiesIterateOwnFirstThenInherited)
 {
 	TArray<FString> Names;
 	for (TFieldIterator<FProperty> It(UTextureRenderTarget2D::StaticClass()); It; ++It)
 	{
 		Names.Add(It->GetName());
 	}
-	const TArray<FString> Expected = {TEXT("SizeX"), TEXT("SizeY"), TEXT("ClearColor"), TEXT("RenderTargetFormat"), TEXT("TargetGamma"), TEXT("SRGB")};
+	const TArray<FString> Expected = {TEXT("SizeX"), TEXT("SizeY"), TEXT("ClearColor"), TEXT("RenderTargetFormat"), TEXT("bAutoGenerateMips"), TEXT("TargetGamma"), TEXT("SRGB")};
 	EXPECT_EQ(Names, Expected);
 	EXPECT_NE(UTextureRenderTarget2D::StaticClass()->FindPropertyByName(TEXT("TargetGamma")), nullptr);
 	EXPECT_EQ(UTextureRenderTarget2D::StaticClass()->FindPropertyByName(TEXT("NoSuchProperty")), nullptr);
 }
 
-TEST(ReflectionTests, ShowFlagSettingStructHasNamedTypedMembersAtTheirOffsets)
+TEST(Reflection, ShowFlagSettingStructHasNamedTypedMembersAtTheirOffsets)
 {
 	UScriptStruct* Struct = FEngineShowFlagsSetting::StaticStruct();
 	ASSERT_NE(Struct, nullptr);
@@ -106,7 +160,7 @@ TEST(ReflectionTests, ShowFlagSettingStructHasNamedTypedMembersAtTheirOffsets)
 	EXPECT_FALSE(Struct->CompareScriptStruct(&A, &C, 0));
 }
 
-TEST(ReflectionTests, ShowFlagSettingsArrayIsEditableThroughItsProperty)
+TEST(Reflection, ShowFlagSettingsArrayIsEditableThroughItsProperty)
 {
 	USceneCaptureComponent2D* Capture = NewObject<USceneCaptureComponent2D>();
 	FArrayProperty* Array = FindTyped<FArrayProperty>(USceneCaptureComponent2D::StaticClass(), TEXT("ShowFlagSettings"));
@@ -143,7 +197,7 @@ TEST(ReflectionTests, ShowFlagSettingsArrayIsEditableThroughItsProperty)
 	EXPECT_TRUE(Capture->ShowFlagSettings[1].Enabled);
 }
 
-TEST(ReflectionTests, ObjectPointerPropertyNamesItsClassAndAcceptsOnlyIt)
+TEST(Reflection, ObjectPointerPropertyNamesItsClassAndAcceptsOnlyIt)
 {
 	USceneCaptureComponent2D* Capture = NewObject<USceneCaptureComponent2D>();
 	UTextureRenderTarget2D* Target = NewObject<UTextureRenderTarget2D>();
@@ -157,10 +211,17 @@ TEST(ReflectionTests, ObjectPointerPropertyNamesItsClassAndAcceptsOnlyIt)
 	FString Path;
 	Property->ExportTextItem_Direct(Path, Property->ContainerPtrToValuePtr<void>(Capture), nullptr, Capture, PPF_None);
 	EXPECT_EQ(Path, Target->GetPathName());
+}
+
+TEST(ReflectionDeathTest, ObjectPointerPropertyRefusesAnObjectOfAnotherClass)
+{
+	USceneCaptureComponent2D* Capture = NewObject<USceneCaptureComponent2D>();
+	FObjectProperty* Property = FindTyped<FObjectProperty>(USceneCaptureComponent2D::StaticClass(), TEXT("TextureTarget"));
+	ASSERT_NE(Property, nullptr);
 	EXPECT_DEATH(Property->SetObjectPropertyValue(Property->ContainerPtrToValuePtr<void>(Capture), Capture), "cannot hold an object of class SceneCaptureComponent2D");
 }
 
-TEST(ReflectionTests, EnumClassPropertyReadsNamesAndDisplayNames)
+TEST(Reflection, EnumClassPropertyReadsNamesAndDisplayNames)
 {
 	USceneCaptureComponent2D* Capture = NewObject<USceneCaptureComponent2D>();
 	FEnumProperty* Mode = FindTyped<FEnumProperty>(USceneCaptureComponent2D::StaticClass(), TEXT("PrimitiveRenderMode"));
@@ -176,7 +237,7 @@ TEST(ReflectionTests, EnumClassPropertyReadsNamesAndDisplayNames)
 	EXPECT_EQ(Mode->ImportText_Direct(TEXT("NotAMode"), Mode->ContainerPtrToValuePtr<void>(Capture), Capture, PPF_None), nullptr);
 }
 
-TEST(ReflectionTests, PrivatePropertiesAreReachedAtTheirRealOffsets)
+TEST(Reflection, PrivatePropertiesAreReachedAtTheirRealOffsets)
 {
 	USceneComponent* Component = NewObject<USceneComponent>();
 	Component->SetRelativeLocation(FVector(1.0, 2.0, 3.0));
@@ -185,4 +246,139 @@ TEST(ReflectionTests, PrivatePropertiesAreReachedAtTheirRealOffsets)
 	EXPECT_TRUE(Location->HasAnyPropertyFlags(CPF_NativeAccessSpecifierPrivate));
 	EXPECT_EQ(*Location->ContainerPtrToValuePtr<FVector>(Component), FVector(1.0, 2.0, 3.0));
 	EXPECT_EQ(TextOf(Location->GetDisplayNameText()), TEXT("Relative Location"));
+}
+
+TEST(Reflection, BitfieldsAreBoolPropertiesOfOneByteNextToEachOther)
+{
+	FBoolProperty* EveryFrame = FindCaptureFlag(TEXT("bCaptureEveryFrame"));
+	FBoolProperty* OnMovement = FindCaptureFlag(TEXT("bCaptureOnMovement"));
+	ASSERT_NE(EveryFrame, nullptr);
+	ASSERT_NE(OnMovement, nullptr);
+	EXPECT_FALSE(EveryFrame->IsNativeBool());
+	EXPECT_EQ(EveryFrame->GetCPPType(), TEXT("uint8"));
+	EXPECT_EQ(EveryFrame->GetSize(), 1);
+	EXPECT_EQ(EveryFrame->GetOffset_ForInternal(), OnMovement->GetOffset_ForInternal());
+	EXPECT_GT(EveryFrame->GetOffset_ForInternal(), FindTyped<FEnumProperty>(USceneCaptureComponent::StaticClass(), TEXT("PrimitiveRenderMode"))->GetOffset_ForInternal());
+	EXPECT_TRUE(EveryFrame->HasAllPropertyFlags(CPF_Edit | CPF_BlueprintVisible | CPF_NativeAccessSpecifierPublic));
+	EXPECT_EQ(EveryFrame->GetMetaData(TEXT("Category")), TEXT("SceneCapture"));
+	EXPECT_EQ(TextOf(EveryFrame->GetDisplayNameText()), TEXT("Capture Every Frame"));
+
+	FBoolProperty* Enabled = FindTyped<FBoolProperty>(FEngineShowFlagsSetting::StaticStruct(), TEXT("Enabled"));
+	ASSERT_NE(Enabled, nullptr);
+	EXPECT_TRUE(Enabled->IsNativeBool());
+	EXPECT_EQ(Enabled->GetCPPType(), TEXT("bool"));
+}
+
+TEST(Reflection, BitfieldPropertyReadsAndWritesOnlyItsOwnBit)
+{
+	USceneCaptureComponent2D* Capture = NewObject<USceneCaptureComponent2D>();
+	Capture->PrimitiveRenderMode = ESceneCapturePrimitiveRenderMode::PRM_UseShowOnlyList;
+	FBoolProperty* EveryFrame = FindCaptureFlag(TEXT("bCaptureEveryFrame"));
+	FBoolProperty* OnMovement = FindCaptureFlag(TEXT("bCaptureOnMovement"));
+	ASSERT_NE(EveryFrame, nullptr);
+	ASSERT_NE(OnMovement, nullptr);
+
+	for (const bool bValue : {false, true})
+	{
+		for (const bool bNeighbour : {false, true})
+		{
+			FCaptureFlags::Set(Capture, !bValue, bNeighbour);
+			EveryFrame->SetPropertyValue_InContainer(Capture, bValue);
+			EXPECT_EQ(FCaptureFlags::Of(Capture), (FCaptureFlags{bValue, bNeighbour}));
+			EXPECT_EQ(EveryFrame->GetPropertyValue_InContainer(Capture), bValue);
+			EXPECT_EQ(OnMovement->GetPropertyValue_InContainer(Capture), bNeighbour);
+
+			FCaptureFlags::Set(Capture, bNeighbour, !bValue);
+			OnMovement->SetPropertyValue_InContainer(Capture, bValue);
+			EXPECT_EQ(FCaptureFlags::Of(Capture), (FCaptureFlags{bNeighbour, bValue}));
+		}
+	}
+	EXPECT_EQ(Capture->PrimitiveRenderMode, ESceneCapturePrimitiveRenderMode::PRM_UseShowOnlyList);
+}
+
+TEST(Reflection, BitfieldTextCopyAndComparisonSeeOnlyItsOwnBit)
+{
+	USceneCaptureComponent2D* First = NewObject<USceneCaptureComponent2D>();
+	USceneCaptureComponent2D* Second = NewObject<USceneCaptureComponent2D>();
+	FBoolProperty* EveryFrame = FindCaptureFlag(TEXT("bCaptureEveryFrame"));
+	ASSERT_NE(EveryFrame, nullptr);
+	FCaptureFlags::Set(First, true, false);
+	FCaptureFlags::Set(Second, false, true);
+
+	FString Text;
+	EveryFrame->ExportTextItem_Direct(Text, EveryFrame->ContainerPtrToValuePtr<void>(First), nullptr, First, PPF_None);
+	EXPECT_EQ(Text, TEXT("True"));
+	EXPECT_FALSE(EveryFrame->Identical_InContainer(First, Second));
+
+	EveryFrame->CopyCompleteValue_InContainer(Second, First);
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{true, true}));
+	EXPECT_TRUE(EveryFrame->Identical_InContainer(First, Second));
+
+	EXPECT_NE(EveryFrame->ImportText_Direct(TEXT("False"), EveryFrame->ContainerPtrToValuePtr<void>(Second), Second, PPF_None), nullptr);
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{false, true}));
+	EXPECT_EQ(EveryFrame->ImportText_Direct(TEXT("Maybe"), EveryFrame->ContainerPtrToValuePtr<void>(Second), Second, PPF_None), nullptr);
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{false, true}));
+}
+
+TEST(Reflection, BitfieldPropertyFindsItsBitInWhicheverByteHoldsIt)
+{
+	FBoolProperty High(nullptr, TEXT("bHigh"), CPF_None, sizeof(uint8), sizeof(FWideFlags), &SetHighBit);
+	// Bit 17 of the word is bit 1 of its third byte.
+	EXPECT_EQ(High.GetOffset_ForInternal(), 2);
+
+	FWideFlags Flags{0x1FFFF, 0, 0x3FFF};
+	High.SetPropertyValue_InContainer(&Flags, true);
+	EXPECT_EQ(Flags.bHigh, 1u);
+	EXPECT_TRUE(High.GetPropertyValue_InContainer(&Flags));
+	High.SetPropertyValue_InContainer(&Flags, false);
+	EXPECT_EQ(Flags.bHigh, 0u);
+	EXPECT_FALSE(High.GetPropertyValue_InContainer(&Flags));
+	EXPECT_EQ(Flags.Low, 0x1FFFFu);
+	EXPECT_EQ(Flags.Rest, 0x3FFFu);
+}
+
+TEST(ReflectionDeathTest, BitfieldWhoseSetterSetsNoBitOrTwoIsFatal)
+{
+	EXPECT_DEATH(FBoolProperty(nullptr, TEXT("bNone"), CPF_None, sizeof(uint8), sizeof(FWideFlags), &SetNoBit), "Bitfield bNone sets 0 bits of its owner instead of one");
+	EXPECT_DEATH(FBoolProperty(nullptr, TEXT("bTwo"), CPF_None, sizeof(uint8), sizeof(FWideFlags), &SetTwoBits), "Bitfield bTwo sets 2 bits of its owner instead of one");
+}
+
+TEST(Reflection, BitfieldIsEditedThroughTheDetailsViewWithoutTouchingItsNeighbour)
+{
+	FHeadlessEditorOptions Options;
+	Options.bStartEditorModule = false;
+	FHeadlessEditorSession Session(Options);
+	USceneCaptureComponent2D* First = NewObject<USceneCaptureComponent2D>(GetTransientPackage());
+	USceneCaptureComponent2D* Second = NewObject<USceneCaptureComponent2D>(GetTransientPackage());
+	FCaptureFlags::Set(First, true, false);
+	FCaptureFlags::Set(Second, false, true);
+	FDetailsViewDriver Driver({First, Second});
+
+	// The second bitfield of the byte: a handle that read or wrote the byte as a bool would miss it.
+	const TSharedRef<IPropertyHandle> OnMovement = Driver.GetView().GetPropertyHandle(TEXT("bCaptureOnMovement"));
+	ASSERT_TRUE(OnMovement->IsValidHandle());
+	bool bValue = false;
+	EXPECT_EQ(OnMovement->GetValue(bValue), FPropertyAccess::MultipleValues);
+	const TSharedPtr<FHeadlessDetailRow> Row = Driver.FindPropertyRow(TEXT("bCaptureOnMovement"));
+	ASSERT_TRUE(Row.IsValid());
+	const TSharedPtr<SCheckBox> Box = FDetailsViewDriver::FindValueWidget<SCheckBox>(*Row, TEXT("SCheckBox"));
+	ASSERT_TRUE(Box.IsValid());
+	EXPECT_EQ(Box->GetCheckedState(), ECheckBoxState::Undetermined);
+
+	EXPECT_EQ(OnMovement->SetValue(true), FPropertyAccess::Success);
+	EXPECT_EQ(FCaptureFlags::Of(First), (FCaptureFlags{true, true}));
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{false, true}));
+	EXPECT_EQ(OnMovement->GetValue(bValue), FPropertyAccess::Success);
+	EXPECT_TRUE(bValue);
+	EXPECT_EQ(Box->GetCheckedState(), ECheckBoxState::Checked);
+
+	const TSharedRef<IPropertyHandle> EveryFrame = Driver.GetView().GetPropertyHandle(TEXT("bCaptureEveryFrame"));
+	EXPECT_EQ(EveryFrame->SetValueFromFormattedString(TEXT("True")), FPropertyAccess::Success);
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{true, true}));
+	EXPECT_EQ(OnMovement->SetValue(false), FPropertyAccess::Success);
+	EXPECT_EQ(FCaptureFlags::Of(First), (FCaptureFlags{true, false}));
+	EXPECT_EQ(FCaptureFlags::Of(Second), (FCaptureFlags{true, false}));
+	EXPECT_EQ(OnMovement->GetValue(bValue), FPropertyAccess::Success);
+	EXPECT_FALSE(bValue);
+	EXPECT_EQ(Box->GetCheckedState(), ECheckBoxState::Unchecked);
 }

@@ -1,48 +1,48 @@
 #include "SourceListControls.h"
 
-#include "KyroNDIRuntimeState.h"
-#include "KyroScreenCaptureRuntimeState.h"
-#include "KyroSpoutRuntimeState.h"
+#include "HeadlessNDISources.h"
+#include "HeadlessScreenCaptureSources.h"
+#include "HeadlessSpoutSenders.h"
+
+namespace
+{
+	/** One runtime record per name, in the same order. */
+	template <typename RecordType>
+	TArray<RecordType> RecordsNamed(const TArray<FString>& Names)
+	{
+		TArray<RecordType> Records;
+		for (const FString& Name : Names)
+		{
+			Records.AddDefaulted_GetRef().Name = Name;
+		}
+		return Records;
+	}
+}
 
 void HeadlessSourceLists::SetSpoutSenderNames(const TArray<FString>& Names)
 {
-	FKyroSpoutRuntimeState::Get().ActiveSenderNames = Names;
+	UE::Headless::SetActiveSpoutSenderNames(Names);
 }
 
 void HeadlessSourceLists::SetNDISourceNames(const TArray<FString>& Names)
 {
-	TArray<FNDISource>& Sources = FKyroNDIRuntimeState::Get().CurrentSources;
-	Sources.Empty();
-	for (const FString& Name : Names)
-	{
-		Sources.Add({Name, TEXT("127.0.0.1:5960")});
-	}
+	UE::Headless::SetNDISources(RecordsNamed<FNDISource>(Names));
 }
 
 void HeadlessSourceLists::SetMonitorNames(const TArray<FString>& Names)
 {
-	TArray<FKyroMonitorInfo>& Monitors = FKyroScreenCaptureRuntimeState::Get().Monitors;
-	Monitors.Empty();
-	for (const FString& Name : Names)
-	{
-		Monitors.Add({Name, 1920, 1080});
-	}
+	UE::Headless::SetScreenCaptureMonitors(RecordsNamed<FKyroMonitorInfo>(Names));
 }
 
 void HeadlessSourceLists::SetWindowNames(const TArray<FString>& Names)
 {
-	TArray<FKyroWindowInfo>& Windows = FKyroScreenCaptureRuntimeState::Get().Windows;
-	Windows.Empty();
-	for (int32 Index = 0; Index < Names.Num(); ++Index)
-	{
-		Windows.Add({Names[Index], static_cast<uint64>(Index + 1)});
-	}
+	UE::Headless::SetScreenCaptureWindows(RecordsNamed<FKyroWindowInfo>(Names));
 }
 
 void HeadlessSourceLists::Reset()
 {
-	FKyroSpoutRuntimeState::Get().ActiveSenderNames.Empty();
-	FKyroNDIRuntimeState::Get().CurrentSources.Empty();
-	FKyroScreenCaptureRuntimeState::Get().Monitors.Empty();
-	FKyroScreenCaptureRuntimeState::Get().Windows.Empty();
+	UE::Headless::SetActiveSpoutSenderNames({});
+	UE::Headless::SetNDISources({});
+	UE::Headless::SetScreenCaptureMonitors({});
+	UE::Headless::SetScreenCaptureWindows({});
 }

@@ -1,8 +1,8 @@
 #include "SourceListExchange.h"
 
-#include "KyroSpoutRuntimeState.h"
+#include "HeadlessSpoutSenders.h"
 
 void HeadlessSourceLists::ExchangeSpoutSenderNames(TArray<FString>& Names)
 {
-	Swap(FKyroSpoutRuntimeState::Get().ActiveSenderNames, Names);
+	UE::Headless::ExchangeActiveSpoutSenderNames(Names);
 }

@@ -59,6 +59,31 @@ namespace
 		return IsExactly<FByteProperty>(Property) || (EnumProperty && EnumProperty->ElementSize == 1);
 	}
 
+	/** The value of type T at Address; a bool property reads only its own bit, which may be a bitfield's. */
+	template <typename T>
+	T ReadValue(const FProperty* Property, const void* Address)
+	{
+		return *static_cast<const T*>(Address);
+	}
+
+	template <>
+	bool ReadValue<bool>(const FProperty* Property, const void* Address)
+	{
+		return CastField<FBoolProperty>(Property)->GetPropertyValue(Address);
+	}
+
+	template <typename T>
+	void WriteValue(const FProperty* Property, void* Address, const T& Value)
+	{
+		*static_cast<T*>(Address) = Value;
+	}
+
+	template <>
+	void WriteValue<bool>(const FProperty* Property, void* Address, const bool& Value)
+	{
+		CastField<FBoolProperty>(Property)->SetPropertyValue(Address, Value);
+	}
+
 	/** A value of a property's type, outside any object. */
 	class FScopedPropertyValue
 	{
@@ -134,7 +159,8 @@ FPropertyAccess::Result FPropertyHandleImpl::GetReadAddress(uint8*& OutAddress) 
 template <typename T>
 FPropertyAccess::Result FPropertyHandleImpl::GetTypedValue(T& OutValue) const
 {
-	if (!HoldsType<T>(GetProperty()))
+	const FProperty* Property = GetProperty();
+	if (!HoldsType<T>(Property))
 	{
 		return FPropertyAccess::Fail;
 	}
@@ -142,7 +168,7 @@ FPropertyAccess::Result FPropertyHandleImpl::GetTypedValue(T& OutValue) const
 	const FPropertyAccess::Result Result = GetReadAddress(Address);
 	if (Result == FPropertyAccess::Success)
 	{
-		OutValue = *reinterpret_cast<const T*>(Address);
+		OutValue = ReadValue<T>(Property, Address);
 	}
 	return Result;
 }
@@ -221,13 +247,14 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 template <typename T>
 FPropertyAccess::Result FPropertyHandleImpl::SetTypedValue(const T& InValue, EPropertyValueSetFlags::Type Flags)
 {
-	if (!HoldsType<T>(GetProperty()))
+	const FProperty* Property = GetProperty();
+	if (!HoldsType<T>(Property))
 	{
 		return FPropertyAccess::Fail;
 	}
-	return WriteValues([&InValue](void* Value)
+	return WriteValues([Property, &InValue](void* Value)
 		{
-			*static_cast<T*>(Value) = InValue;
+			WriteValue(Property, Value, InValue);
 			return true; },
 		Flags);
 }

@@ -1,12 +1,23 @@
 #include "CastellanModule.h"
 
-#include "HardwareEncodersState.h"
+#include "HeadlessHardwareEncoders.h"
 #include "Modules/ModuleManager.h"
 
-FHardwareEncodersState& FHardwareEncodersState::Get()
+namespace
 {
-	static FHardwareEncodersState State;
-	return State;
+	/** The runtime's view of the "HardwareEncoders" plugin. */
+	struct FHardwareEncodersState
+	{
+		bool bSuggestLoading = true;
+		/** Set once enabling the plugin awaits a restart; lasts for the process. */
+		bool bPendingRestart = false;
+	};
+
+	FHardwareEncodersState& HardwareEncoders()
+	{
+		static FHardwareEncodersState State;
+		return State;
+	}
 }
 
 void FCastellanModule::StartupModule()
@@ -19,17 +30,27 @@ void FCastellanModule::ShutdownModule()
 
 bool FCastellanModule::SuggestLoadingHardwareEncodersPlugin()
 {
-	return FHardwareEncodersState::Get().bSuggestLoading;
+	return HardwareEncoders().bSuggestLoading;
 }
 
 bool FCastellanModule::IsHardwareEncodersPluginPendingRestart()
 {
-	return FHardwareEncodersState::Get().bPendingRestart;
+	return HardwareEncoders().bPendingRestart;
 }
 
 void FCastellanModule::SetHardwareEncodersPendingRestart()
 {
-	FHardwareEncodersState::Get().bPendingRestart = true;
+	HardwareEncoders().bPendingRestart = true;
+}
+
+void UE::Headless::SetSuggestLoadingHardwareEncodersPlugin(bool bSuggest)
+{
+	HardwareEncoders().bSuggestLoading = bSuggest;
+}
+
+void UE::Headless::ClearHardwareEncodersPendingRestart()
+{
+	HardwareEncoders().bPendingRestart = false;
 }
 
 IMPLEMENT_MODULE(FCastellanModule, Castellan)

@@ -1,31 +1,49 @@
 #include "KyroBlueprintFunctionLibrary.h"
 
-#include "KyroViewportRenderingState.h"
+#include "HeadlessViewportRendering.h"
 
-FKyroViewportRenderingState& FKyroViewportRenderingState::Get()
+namespace
 {
-	static FKyroViewportRenderingState State;
-	return State;
+	/** The switches are process-wide, as the runtime keeps them. */
+	struct FViewportRenderingState
+	{
+		bool bEditorViewportRendering = true;
+		bool bRuntimeViewportRendering = true;
+	};
+
+	FViewportRenderingState& ViewportRendering()
+	{
+		static FViewportRenderingState State;
+		return State;
+	}
 }
 
 void UKyroBlueprintFunctionLibrary::ToggleEditorViewportRendering()
 {
-	FKyroViewportRenderingState& State = FKyroViewportRenderingState::Get();
-	State.bEditorViewportRendering = !State.bEditorViewportRendering;
+	ViewportRendering().bEditorViewportRendering = !ViewportRendering().bEditorViewportRendering;
 }
 
 bool UKyroBlueprintFunctionLibrary::GetIsEditorViewportRendering()
 {
-	return FKyroViewportRenderingState::Get().bEditorViewportRendering;
+	return ViewportRendering().bEditorViewportRendering;
 }
 
 void UKyroBlueprintFunctionLibrary::ToggleRuntimeViewportRendering()
 {
-	FKyroViewportRenderingState& State = FKyroViewportRenderingState::Get();
-	State.bRuntimeViewportRendering = !State.bRuntimeViewportRendering;
+	ViewportRendering().bRuntimeViewportRendering = !ViewportRendering().bRuntimeViewportRendering;
 }
 
 bool UKyroBlueprintFunctionLibrary::GetIsRuntimeViewportRendering()
 {
-	return FKyroViewportRenderingState::Get().bRuntimeViewportRendering;
+	return ViewportRendering().bRuntimeViewportRendering;
+}
+
+void UE::Headless::SetEditorViewportRendering(bool bEnabled)
+{
+	ViewportRendering().bEditorViewportRendering = bEnabled;
+}
+
+void UE::Headless::SetRuntimeViewportRendering(bool bEnabled)
+{
+	ViewportRendering().bRuntimeViewportRendering = bEnabled;
 }

@@ -1,8 +1,22 @@
 #include "KyroTelemetry.h"
 
-#include "CastellanRuntimeState.h"
+#include "HeadlessTelemetry.h"
+
+namespace
+{
+	int32& WizardEditorOpenedCount()
+	{
+		static int32 Count = 0;
+		return Count;
+	}
+}
 
 void KyroTelemetry::WizardEditorOpened()
 {
-	++FCastellanRuntimeState::Get().WizardEditorOpenedCount;
+	++WizardEditorOpenedCount();
+}
+
+int32 UE::Headless::GetWizardEditorOpenedCount()
+{
+	return WizardEditorOpenedCount();
 }

@@ -12,8 +12,6 @@ class KYRO360CAMERA_API UKyro360CaptureComponent : public USceneCaptureComponent
 	GENERATED_BODY()
 
 public:
-	UKyro360CaptureComponent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-
 	/** Width of the stitched panorama, in pixels. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
 	int32 PanoramaWidth = 4096;

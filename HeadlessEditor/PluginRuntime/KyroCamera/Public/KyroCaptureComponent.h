@@ -5,15 +5,13 @@
 #include "UObject/ObjectMacros.h"
 #include "KyroCaptureComponent.generated.h"
 
-/** The scene capture of the plugin's cine camera and viewport capture actors. */
+/** The scene capture of the plugin's cine camera. */
 UCLASS(ClassGroup = Rendering, editinlinenew, meta = (BlueprintSpawnableComponent))
 class KYROCAMERA_API UKyroCaptureComponent : public USceneCaptureComponent2D
 {
 	GENERATED_BODY()
 
 public:
-	UKyroCaptureComponent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-
 	/** Frames captured per second. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
 	int32 CaptureFrameRate = 30;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "GameFramework/Actor.h"
+#include "KyroSceneActor.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/ObjectPtr.h"
 #include "KyroViewportCapture.generated.h"
@@ -10,14 +10,12 @@ class UTextureRenderTarget2D;
 
 /** Copies what the editor or game viewport shows into a render target. */
 UCLASS(ClassGroup = (Kyro))
-class KYROCAMERA_API AKyroViewportCapture : public AActor
+class KYROCAMERA_API AKyroViewportCapture : public AKyroSceneActor
 {
 	GENERATED_BODY()
 
 public:
-	AKyroViewportCapture(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-
 	/** The render target the viewport is copied into. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Kyro Capture")
-	TObjectPtr<UTextureRenderTarget2D> RenderTarget;
+	TObjectPtr<UTextureRenderTarget2D> RenderTarget = nullptr;
 };

@@ -12,8 +12,6 @@ class KYROCOMPOSURE_API UKyroCGCaptureComponent : public USceneCaptureComponent2
 	GENERATED_BODY()
 
 public:
-	UKyroCGCaptureComponent(const FObjectInitializer& ObjectInitializer);
-
 	/** The composition layer this capture feeds. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Nimbrel Capture Settings")
 	FName CompositeLayer;

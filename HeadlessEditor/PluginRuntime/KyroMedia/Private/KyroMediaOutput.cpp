@@ -1,30 +1,28 @@
 #include "KyroMediaOutput.h"
 
-#include "Components/SceneComponent.h"
 #include "CoreGlobals.h"
+#include "HeadlessMediaOutputs.h"
 #include "Misc/ITransaction.h"
-#include "KyroMediaOutputState.h"
 #include "UObject/Script.h"
 #include "UObject/UObjectIterator.h"
 
 namespace
 {
+	TArray<UE::Headless::FMediaOutputCall>& Calls()
+	{
+		static TArray<UE::Headless::FMediaOutputCall> Recorded;
+		return Recorded;
+	}
+
 	void RecordCall(AKyroMediaOutput* Output, bool bStart)
 	{
-		FKyroMediaOutputState::FCall& Call = FKyroMediaOutputState::Get().Calls.AddDefaulted_GetRef();
+		UE::Headless::FMediaOutputCall& Call = Calls().AddDefaulted_GetRef();
 		Call.Output = Output;
 		Call.bStart = bStart;
 		Call.bScriptExecutionAllowed = GAllowActorScriptExecutionInEditor;
 		Call.bInTransaction = GUndo != nullptr;
 		Call.TransactionTitle = GUndo ? GUndo->GetContext().Title : FText::GetEmpty();
 	}
-}
-
-AKyroMediaOutput::AKyroMediaOutput(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, RenderTarget(nullptr)
-{
-	RootComponent = CreateDefaultSubobject<USceneComponent>(TEXT("Root"));
 }
 
 void AKyroMediaOutput::Start()
@@ -40,13 +38,17 @@ void AKyroMediaOutput::Stop()
 	HasStarted = false;
 }
 
-FKyroMediaOutputState& FKyroMediaOutputState::Get()
+TArray<UE::Headless::FMediaOutputCall> UE::Headless::GetMediaOutputCalls()
 {
-	static FKyroMediaOutputState State;
-	return State;
+	return Calls();
 }
 
-void FKyroMediaOutputState::AdvanceClock(uint64 Milliseconds)
+void UE::Headless::ResetMediaOutputCalls()
+{
+	Calls().Reset();
+}
+
+void UE::Headless::AdvanceMediaOutputClock(uint64 Milliseconds)
 {
 	for (TObjectIterator<AKyroMediaOutput> It; It; ++It)
 	{

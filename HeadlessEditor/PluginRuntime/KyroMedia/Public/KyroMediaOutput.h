@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "GameFramework/Actor.h"
+#include "KyroSceneActor.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/ObjectPtr.h"
 #include "KyroMediaOutput.generated.h"
@@ -10,16 +10,14 @@ class UTextureRenderTarget2D;
 
 /** Encodes what a render target shows and streams or records it (RTMP, SRT, files). */
 UCLASS(BlueprintType)
-class KYROMEDIA_API AKyroMediaOutput : public AActor
+class KYROMEDIA_API AKyroMediaOutput : public AKyroSceneActor
 {
 	GENERATED_BODY()
 
 public:
-	AKyroMediaOutput(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-
 	/** The texture encoded. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Media Output")
-	TObjectPtr<UTextureRenderTarget2D> RenderTarget;
+	TObjectPtr<UTextureRenderTarget2D> RenderTarget = nullptr;
 
 	/** Whether the output is running. */
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Media Output")

@@ -1,11 +1,14 @@
 #include "KyroNDIFinder.h"
 
-#include "KyroNDIRuntimeState.h"
+#include "HeadlessNDISources.h"
 
-FKyroNDIRuntimeState& FKyroNDIRuntimeState::Get()
+namespace
 {
-	static FKyroNDIRuntimeState State;
-	return State;
+	TArray<FNDISource>& CurrentSources()
+	{
+		static TArray<FNDISource> Sources;
+		return Sources;
+	}
 }
 
 FKyroNDIFinder* FKyroNDIFinder::Get()
@@ -16,5 +19,10 @@ FKyroNDIFinder* FKyroNDIFinder::Get()
 
 TArray<FNDISource> FKyroNDIFinder::GetCurrentSources() const
 {
-	return FKyroNDIRuntimeState::Get().CurrentSources;
+	return CurrentSources();
+}
+
+void UE::Headless::SetNDISources(TArray<FNDISource> Sources)
+{
+	CurrentSources() = MoveTemp(Sources);
 }

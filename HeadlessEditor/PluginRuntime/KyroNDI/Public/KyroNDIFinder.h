@@ -6,7 +6,6 @@
 struct FNDISource
 {
 	FString Name;
-	FString Address;
 };
 
 /** Watches the network for NDI sources. */

@@ -1,19 +1,38 @@
 #include "ScreenCaptureHelpers.h"
 
-#include "KyroScreenCaptureRuntimeState.h"
+#include "HeadlessScreenCaptureSources.h"
 
-FKyroScreenCaptureRuntimeState& FKyroScreenCaptureRuntimeState::Get()
+namespace
 {
-	static FKyroScreenCaptureRuntimeState State;
-	return State;
+	struct FScreenCaptureSources
+	{
+		TArray<FKyroMonitorInfo> Monitors;
+		TArray<FKyroWindowInfo> Windows;
+	};
+
+	FScreenCaptureSources& Sources()
+	{
+		static FScreenCaptureSources State;
+		return State;
+	}
 }
 
 TArray<FKyroMonitorInfo> FScreenCaptureHelpers::GetMonitors()
 {
-	return FKyroScreenCaptureRuntimeState::Get().Monitors;
+	return Sources().Monitors;
 }
 
 TArray<FKyroWindowInfo> FScreenCaptureHelpers::GetWindows()
 {
-	return FKyroScreenCaptureRuntimeState::Get().Windows;
+	return Sources().Windows;
+}
+
+void UE::Headless::SetScreenCaptureMonitors(TArray<FKyroMonitorInfo> Monitors)
+{
+	Sources().Monitors = MoveTemp(Monitors);
+}
+
+void UE::Headless::SetScreenCaptureWindows(TArray<FKyroWindowInfo> Windows)
+{
+	Sources().Windows = MoveTemp(Windows);
 }

@@ -1,14 +1,27 @@
 #include "KyroSpoutNames.h"
 
-#include "KyroSpoutRuntimeState.h"
+#include "HeadlessSpoutSenders.h"
 
-FKyroSpoutRuntimeState& FKyroSpoutRuntimeState::Get()
+namespace
 {
-	static FKyroSpoutRuntimeState State;
-	return State;
+	TArray<FString>& ActiveSenderNames()
+	{
+		static TArray<FString> Names;
+		return Names;
+	}
 }
 
 TArray<FString> FKyroSpoutNames::GetActiveSenderNames()
 {
-	return FKyroSpoutRuntimeState::Get().ActiveSenderNames;
+	return ActiveSenderNames();
+}
+
+void UE::Headless::SetActiveSpoutSenderNames(TArray<FString> Names)
+{
+	ActiveSenderNames() = MoveTemp(Names);
+}
+
+void UE::Headless::ExchangeActiveSpoutSenderNames(TArray<FString>& Names)
+{
+	Swap(ActiveSenderNames(), Names);
 }

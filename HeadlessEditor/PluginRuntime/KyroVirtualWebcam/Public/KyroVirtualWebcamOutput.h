@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "GameFramework/Actor.h"
+#include "KyroSceneActor.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/ObjectPtr.h"
 #include "KyroVirtualWebcamOutput.generated.h"
@@ -10,14 +10,12 @@ class UTextureRenderTarget2D;
 
 /** Offers a render target to other applications as a webcam. */
 UCLASS(ClassGroup = (Kyro))
-class KYROVIRTUALWEBCAM_API AKyroVirtualWebcamOutput : public AActor
+class KYROVIRTUALWEBCAM_API AKyroVirtualWebcamOutput : public AKyroSceneActor
 {
 	GENERATED_BODY()
 
 public:
-	AKyroVirtualWebcamOutput(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-
 	/** The texture the webcam shows. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Virtual Webcam")
-	TObjectPtr<UTextureRenderTarget2D> RenderTarget;
+	TObjectPtr<UTextureRenderTarget2D> RenderTarget = nullptr;
 };

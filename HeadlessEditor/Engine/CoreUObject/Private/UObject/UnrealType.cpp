@@ -245,6 +245,72 @@ IMPLEMENT_NUMERIC_PROPERTY(FUInt64Property, "UInt64Property", uint64, TEXT("%llu
 IMPLEMENT_NUMERIC_PROPERTY(FFloatProperty, "FloatProperty", float, TEXT("%f"))
 IMPLEMENT_NUMERIC_PROPERTY(FDoubleProperty, "DoubleProperty", double, TEXT("%f"))
 
+namespace
+{
+	/** Where a bitfield's bit is in its owner. */
+	struct FBitfieldBit
+	{
+		int32 Offset = INDEX_NONE;
+		uint8 Mask = 0;
+	};
+
+	/** The bit that SetBit sets in a blank owner; it must be the only one. */
+	FBitfieldBit FindBitfieldBit(const TCHAR* Name, SIZE_T SizeOfOuter, void (*SetBit)(void* Obj))
+	{
+		TArray<uint8> Blank;
+		Blank.SetNumZeroed(static_cast<int32>(SizeOfOuter));
+		SetBit(Blank.GetData());
+		FBitfieldBit Bit;
+		int32 BitCount = 0;
+		for (int32 Offset = 0; Offset < Blank.Num(); ++Offset)
+		{
+			for (uint8 Bits = Blank[Offset]; Bits != 0; Bits &= Bits - 1)
+			{
+				++BitCount;
+				Bit = {Offset, Blank[Offset]};
+			}
+		}
+		checkf(BitCount == 1, TEXT("Bitfield %s sets %d bits of its owner instead of one"), Name, BitCount);
+		return Bit;
+	}
+}
+
+FBoolProperty::FBoolProperty(UStruct* InOwner, const TCHAR* InName, EPropertyFlags InFlags, int32 InOffset)
+	: FProperty(InOwner, InName, InFlags, InOffset, sizeof(bool), alignof(bool))
+{
+	SetBoolSize(sizeof(bool), true);
+}
+
+FBoolProperty::FBoolProperty(UStruct* InOwner, const TCHAR* InName, EPropertyFlags InFlags, uint32 InElementSize, SIZE_T InSizeOfOuter, void (*SetBit)(void* Obj))
+	: FProperty(InOwner, InName, InFlags, 0, static_cast<int32>(InElementSize), 1)
+{
+	const FBitfieldBit Bit = FindBitfieldBit(InName, InSizeOfOuter, SetBit);
+	SetOffset_Internal(Bit.Offset);
+	SetBoolSize(InElementSize, false, Bit.Mask);
+}
+
+void FBoolProperty::SetBoolSize(const uint32 InSize, const bool bIsNativeBool, const uint32 InBitMask)
+{
+	ElementSize = static_cast<int32>(InSize);
+	FieldSize = static_cast<uint8>(InSize);
+	ByteOffset = 0;
+	if (bIsNativeBool)
+	{
+		ByteMask = 1;
+		FieldMask = 0xff;
+		return;
+	}
+	// The mask names one bit of the field's integer; keep the byte that holds it, in memory order.
+	const uint32 BitMask = InBitMask ? InBitMask : 1;
+	while (ByteOffset < InSize && ((BitMask >> (8 * ByteOffset)) & 0xff) == 0)
+	{
+		++ByteOffset;
+	}
+	ByteMask = static_cast<uint8>(BitMask >> (8 * ByteOffset));
+	FieldMask = ByteMask;
+	checkf(ByteMask != 0, TEXT("Bool property %s has no bit in its %u bytes"), *GetName(), InSize);
+}
+
 FString FBoolProperty::GetClassName() const
 {
 	return TEXT("BoolProperty");
@@ -252,7 +318,50 @@ FString FBoolProperty::GetClassName() const
 
 FString FBoolProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const
 {
-	return TEXT("bool");
+	if (IsNativeBool())
+	{
+		return TEXT("bool");
+	}
+	switch (ElementSize)
+	{
+		case sizeof(uint64):
+			return TEXT("uint64");
+		case sizeof(uint32):
+			return TEXT("uint32");
+		case sizeof(uint16):
+			return TEXT("uint16");
+		default:
+			return TEXT("uint8");
+	}
+}
+
+bool FBoolProperty::GetPropertyValue(void const* A) const
+{
+	return (static_cast<const uint8*>(A)[ByteOffset] & FieldMask) != 0;
+}
+
+void FBoolProperty::SetPropertyValue(void* A, bool Value) const
+{
+	uint8& Byte = static_cast<uint8*>(A)[ByteOffset];
+	Byte = (Byte & ~FieldMask) | (Value ? ByteMask : 0);
+}
+
+bool FBoolProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
+{
+	return GetPropertyValue(A) == (B && GetPropertyValue(B));
+}
+
+void FBoolProperty::InitializeValue(void* Dest) const
+{
+	SetPropertyValue(Dest, false);
+}
+
+void FBoolProperty::CopyValuesInternal(void* Dest, void const* Src, int32 Count) const
+{
+	for (int32 Index = 0; Index < Count; ++Index)
+	{
+		SetPropertyValue(static_cast<uint8*>(Dest) + Index * ElementSize, GetPropertyValue(static_cast<const uint8*>(Src) + Index * ElementSize));
+	}
 }
 
 void FBoolProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const

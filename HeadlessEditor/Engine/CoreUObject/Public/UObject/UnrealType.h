@@ -119,6 +119,7 @@ public:
 
 protected:
 	friend class FArrayProperty;
+	void SetOffset_Internal(int32 NewOffset) { Offset_Internal = NewOffset; }
 	virtual void CopyValuesInternal(void* Dest, void const* Src, int32 Count) const = 0;
 	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const = 0;
 	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const = 0;
@@ -217,7 +218,6 @@ private:
 		virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override; \
 	};
 
-HEADLESS_DECLARE_PROPERTY(FBoolProperty, bool)
 HEADLESS_DECLARE_PROPERTY(FIntProperty, int32)
 HEADLESS_DECLARE_PROPERTY(FUInt32Property, uint32)
 HEADLESS_DECLARE_PROPERTY(FInt64Property, int64)
@@ -226,6 +226,54 @@ HEADLESS_DECLARE_PROPERTY(FFloatProperty, float)
 HEADLESS_DECLARE_PROPERTY(FDoubleProperty, double)
 HEADLESS_DECLARE_PROPERTY(FStrProperty, FString)
 HEADLESS_DECLARE_PROPERTY(FNameProperty, FName)
+
+/**
+ * A bool member, or a one-bit bitfield of an unsigned integer that the header tool reflects as a
+ * bool: reads and writes only its own bit of its byte.
+ */
+class COREUOBJECT_API FBoolProperty : public FProperty
+{
+public:
+	/** A C++ bool member at InOffset. */
+	FBoolProperty(UStruct* InOwner, const TCHAR* InName, EPropertyFlags InFlags, int32 InOffset);
+	/**
+	 * A bitfield of an InElementSize-byte integer. A bitfield has no address, so its bit is found by
+	 * calling SetBit on a blank InSizeOfOuter-byte owner, as the engine's generated code has it.
+	 */
+	FBoolProperty(UStruct* InOwner, const TCHAR* InName, EPropertyFlags InFlags, uint32 InElementSize, SIZE_T InSizeOfOuter, void (*SetBit)(void* Obj));
+
+	virtual FString GetClassName() const override;
+	virtual FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
+	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
+	virtual void InitializeValue(void* Dest) const override;
+	virtual void DestroyValue(void* Dest) const override {}
+
+	typedef bool TCppType;
+	bool GetPropertyValue(void const* A) const;
+	bool GetPropertyValue_InContainer(void const* A, int32 ArrayIndex = 0) const { return GetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex)); }
+	void SetPropertyValue(void* A, bool Value) const;
+	void SetPropertyValue_InContainer(void* A, bool Value, int32 ArrayIndex = 0) const { SetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex), Value); }
+
+	/** Sets the size of the bool or of the bitfield's integer, and the bit the property holds. */
+	void SetBoolSize(const uint32 InSize, const bool bIsNativeBool = false, const uint32 InBitMask = 0);
+	/** Whether this is a C++ bool rather than a bitfield. */
+	bool IsNativeBool() const { return FieldMask == 0xff; }
+
+protected:
+	virtual void CopyValuesInternal(void* Dest, void const* Src, int32 Count) const override;
+	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, int32 PortFlags) const override;
+	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Data, int32 PortFlags) const override;
+
+private:
+	/** The size of the bool or of the bitfield's integer. */
+	uint8 FieldSize = 0;
+	/** The byte of the value that holds the bit. */
+	uint8 ByteOffset = 0;
+	/** The bit that true sets in that byte. */
+	uint8 ByteMask = 1;
+	/** The bits the value covers in that byte: the bitfield's bit, or the whole byte of a bool. */
+	uint8 FieldMask = 1;
+};
 
 /** A uint8, or a TEnumAsByte when Enum is set. */
 class COREUOBJECT_API FByteProperty : public TProperty<uint8>

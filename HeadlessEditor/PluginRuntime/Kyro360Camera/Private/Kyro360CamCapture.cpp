@@ -1,10 +1,6 @@
 #include "Kyro360CamCapture.h"
-#include "Kyro360CaptureComponent.h"
 
-UKyro360CaptureComponent::UKyro360CaptureComponent(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-{
-}
+#include "Kyro360CaptureComponent.h"
 
 AKyro360CamCapture::AKyro360CamCapture(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)

@@ -1,8 +1,8 @@
-#include "KyroNDISenderManager.h"
+#include "KyroSceneActor.h"
 
 #include "Components/SceneComponent.h"
 
-AKyroNDISenderManager::AKyroNDISenderManager(const FObjectInitializer& ObjectInitializer)
+AKyroSceneActor::AKyroSceneActor(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 {
 	RootComponent = CreateDefaultSubobject<USceneComponent>(TEXT("Root"));

@@ -1,7 +1,0 @@
-#include "CastellanRuntimeState.h"
-
-FCastellanRuntimeState& FCastellanRuntimeState::Get()
-{
-	static FCastellanRuntimeState State;
-	return State;
-}

@@ -1,6 +1,0 @@
-#include "KyroCGCaptureComponent.h"
-
-UKyroCGCaptureComponent::UKyroCGCaptureComponent(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-{
-}
