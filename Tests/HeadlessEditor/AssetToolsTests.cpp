@@ -3,6 +3,7 @@
 #include "AssetToolsModule.h"
 #include "Engine/TextureRenderTarget2D.h"
 #include "Factories/KyroNDISoundWaveFactory.h"
+#include "HeadlessDesktop.h"
 #include "HeadlessEditorSession.h"
 #include "IAssetTools.h"
 #include "KyroNDISoundWave.h"
@@ -36,7 +37,7 @@ namespace
 		int32 Count = 0;
 	};
 
-	class AssetToolsTests : public ::testing::Test
+	class AssetTools : public ::testing::Test
 	{
 	protected:
 		IAssetTools& Tools() { return FAssetToolsModule::GetModule().Get(); }
@@ -60,7 +61,7 @@ namespace
 	};
 }
 
-TEST_F(AssetToolsTests, FreeNamesAreKeptAsTheyAre)
+TEST_F(AssetTools, FreeNamesAreKeptAsTheyAre)
 {
 	FString PackageName;
 	FString AssetName;
@@ -75,7 +76,7 @@ TEST_F(AssetToolsTests, FreeNamesAreKeptAsTheyAre)
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/Feed"), TEXT("_RT")).Equals(TEXT("Feed_RT")));
 }
 
-TEST_F(AssetToolsTests, TakenNamesCountOnFromTheirTrailingNumber)
+TEST_F(AssetTools, TakenNamesCountOnFromTheirTrailingNumber)
 {
 	ASSERT_NE(MakeTarget(TEXT("Feed")), nullptr);
 	// The engine starts a bare name at 1, not 2.
@@ -95,7 +96,7 @@ TEST_F(AssetToolsTests, TakenNamesCountOnFromTheirTrailingNumber)
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/Cam0")).Equals(TEXT("Cam1")));
 }
 
-TEST_F(AssetToolsTests, AllDigitNamesAlwaysGetAnUnderscoreNumber)
+TEST_F(AssetTools, AllDigitNamesAlwaysGetAnUnderscoreNumber)
 {
 	// Even a free all-digit name is not returned as it is.
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/2024")).Equals(TEXT("2024_2")));
@@ -103,7 +104,7 @@ TEST_F(AssetToolsTests, AllDigitNamesAlwaysGetAnUnderscoreNumber)
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/2024")).Equals(TEXT("2024_3")));
 }
 
-TEST_F(AssetToolsTests, OnlyAssetsInTheSameFolderTakeAName)
+TEST_F(AssetTools, OnlyAssetsInTheSameFolderTakeAName)
 {
 	ASSERT_NE(MakeTarget(TEXT("Feed"), TEXT("/Game/Other")), nullptr);
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/Feed")).Equals(TEXT("Feed")));
@@ -113,7 +114,7 @@ TEST_F(AssetToolsTests, OnlyAssetsInTheSameFolderTakeAName)
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/Empty")).Equals(TEXT("Empty")));
 }
 
-TEST_F(AssetToolsTests, InvalidCharactersBecomeUnderscores)
+TEST_F(AssetTools, InvalidCharactersBecomeUnderscores)
 {
 	FString PackageName;
 	FString AssetName;
@@ -128,7 +129,7 @@ TEST_F(AssetToolsTests, InvalidCharactersBecomeUnderscores)
 	EXPECT_TRUE(UniqueName(TEXT("/Game/Stage/A=B;C")).Equals(TEXT("A_B_C")));
 }
 
-TEST_F(AssetToolsTests, CreatedAssetsArePublicStandaloneTransactionalAndDirtyTheirPackage)
+TEST_F(AssetTools, CreatedAssetsArePublicStandaloneTransactionalAndDirtyTheirPackage)
 {
 	UObject* Asset = MakeTarget(TEXT("Feed"));
 	ASSERT_NE(Asset, nullptr);
@@ -149,7 +150,7 @@ TEST_F(AssetToolsTests, CreatedAssetsArePublicStandaloneTransactionalAndDirtyThe
 	EXPECT_FALSE(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(TEXT("/Game/Stage/Feed.Feed")), true).IsValid());
 }
 
-TEST_F(AssetToolsTests, CreatingAnAssetTellsTheRegistry)
+TEST_F(AssetTools, CreatingAnAssetTellsTheRegistry)
 {
 	TArray<UObject*> Announced;
 	const FDelegateHandle Handle = IAssetRegistry::GetChecked().OnInMemoryAssetCreated().AddLambda([&Announced](UObject* Asset)
@@ -165,7 +166,7 @@ TEST_F(AssetToolsTests, CreatingAnAssetTellsTheRegistry)
 	IAssetRegistry::GetChecked().OnInMemoryAssetCreated().Remove(Handle);
 }
 
-TEST_F(AssetToolsTests, CreationIsRefusedForInvalidOrTakenNames)
+TEST_F(AssetTools, CreationIsRefusedForInvalidOrTakenNames)
 {
 	UObject* Existing = MakeTarget(TEXT("Feed"));
 	ASSERT_NE(Existing, nullptr);
@@ -184,7 +185,28 @@ TEST_F(AssetToolsTests, CreationIsRefusedForInvalidOrTakenNames)
 	EXPECT_EQ(MakeTarget(TEXT("Feed"), TEXT("/NotMounted/Stage")), nullptr);
 }
 
-TEST_F(AssetToolsTests, AFactoryMakesTheAssetOfItsSupportedClass)
+TEST_F(AssetTools, EachRefusalIsShownInTheEnginesMessageBox)
+{
+	ASSERT_NE(MakeTarget(TEXT("Feed")), nullptr);
+	EXPECT_TRUE(UE::Headless::GetShownMessageDialogs().IsEmpty());
+
+	EXPECT_EQ(MakeTarget(TEXT("Feed")), nullptr);
+	EXPECT_EQ(MakeTarget(TEXT("")), nullptr);
+	EXPECT_EQ(MakeTarget(TEXT("Feed.1")), nullptr);
+	EXPECT_EQ(MakeTarget(TEXT("Feed"), TEXT("/NotMounted/Stage")), nullptr);
+
+	const TArray<UE::Headless::FShownMessageDialog>& Dialogs = UE::Headless::GetShownMessageDialogs();
+	ASSERT_EQ(Dialogs.Num(), 4);
+	// Replacing is asked; the unattended answer, No, keeps the existing asset.
+	EXPECT_EQ(Dialogs[0].MessageType, EAppMsgType::YesNo);
+	EXPECT_TRUE(Dialogs[0].Message.ToString().StartsWith(TEXT("An object [Feed] of class [TextureRenderTarget2D] already exists in file [/Game/Stage/Feed].  Do you want to replace the existing object?")));
+	EXPECT_EQ(Dialogs[1].MessageType, EAppMsgType::Ok);
+	EXPECT_TRUE(Dialogs[1].Message.ToString().Equals(TEXT("Input '/Game/Stage/' ends with a '/', which is invalid for LongPackageNames.")));
+	EXPECT_TRUE(Dialogs[2].Message.ToString().Equals(TEXT("Name may not contain the following characters: .")));
+	EXPECT_TRUE(Dialogs[3].Message.ToString().Equals(TEXT("Path does not start with a valid root. Path must begin with: '/Engine/', '/Game/', or '/Temp/'")));
+}
+
+TEST_F(AssetTools, AFactoryMakesTheAssetOfItsSupportedClass)
 {
 	UKyroNDISoundWaveFactory* Factory = NewObject<UKyroNDISoundWaveFactory>();
 	UObject* Asset = Tools().CreateAsset(TEXT("Wave"), TEXT("/Game/Audio"), nullptr, Factory);
@@ -195,7 +217,7 @@ TEST_F(AssetToolsTests, AFactoryMakesTheAssetOfItsSupportedClass)
 	EXPECT_TRUE(Asset->GetOutermost()->IsDirty());
 }
 
-TEST_F(AssetToolsTests, NeitherClassNorFactoryOrAMismatchIsRefusedWithAnEnsure)
+TEST_F(AssetTools, NeitherClassNorFactoryOrAMismatchIsRefusedWithAnEnsure)
 {
 	FEnsureCounter Ensures;
 	EXPECT_EQ(Tools().CreateAsset(TEXT("Nothing"), TEXT("/Game/Stage"), nullptr, nullptr), nullptr);

@@ -1,169 +1,34 @@
 // Boots the headless editor with the CastellanEditor module and shows what a user would see.
 
-#include "CastellanEditor.h"
-#include "Containers/StringConv.h"
-#include "Framework/Docking/TabManager.h"
-#include "HeadlessEditorSession.h"
-#include "Modules/ModuleManager.h"
-#include "Report.h"
-#include "WidgetDriver.h"
-#include "Widgets/Docking/SDockTab.h"
-#include "Widgets/Input/SButton.h"
-#include "Widgets/Input/SCheckBox.h"
-#include "Widgets/Input/SComboBox.h"
-#include "Widgets/Input/SEditableTextBox.h"
+#include "CommandLine.h"
+#include "Commands.h"
 
 #include <cstdio>
 #include <string>
 #include <vector>
 
-namespace
-{
-	void Print(const FString& Text)
-	{
-		std::fputs(TCHAR_TO_UTF8(*Text), stdout);
-	}
-
-	int PrintUsage()
-	{
-		std::fputs(
-			"Usage: castellan-headless <command> [options]\n"
-			"Commands:\n"
-			"  wizard   open the Livestream Wizard and print what the module registered and the wizard\n"
-			"  menu     print the toolbar button and its drop-down menu\n"
-			"  create   fill in the wizard, press Create and print the done page, the level and the assets\n"
-			"           --capture \"Kyro Cinecam\"|\"Kyro 360 Camera\"|\"Kyro Viewport Capture\"\n"
-			"           --output Spout|NDI|\"Media Output (RTMP, SRT, MP4 etc.)\"|\"Virtual Webcam\" (repeatable)\n"
-			"           --name <livestream name>\n",
-			stderr);
-		return 2;
-	}
-
-	TSharedRef<SWidget> OpenWizard()
-	{
-		FModuleManager::GetModuleChecked<FCastellanEditorModule>(TEXT("CastellanEditor")).PluginButtonClicked();
-		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FCastellanEditorModule::LivestreamWizardTabName));
-		check(Tab.IsValid());
-		return Tab->GetContent();
-	}
-
-	int RunWizard()
-	{
-		FHeadlessEditorSession Session;
-		Print(CastellanReport::DescribeRegistrations());
-		Print(TEXT("\nLivestreamWizard tab:\n"));
-		Print(FWidgetDriver::DescribeTree(OpenWizard()));
-		return 0;
-	}
-
-	int RunMenu()
-	{
-		FHeadlessEditorSession Session;
-		Print(CastellanReport::DescribeToolbarMenu());
-		return 0;
-	}
-
-	struct FCreateRequest
-	{
-		FString Capture = TEXT("Kyro Cinecam");
-		std::vector<FString> Outputs;
-		FString Name;
-	};
-
-	bool ParseCreateRequest(int ArgumentCount, char** Arguments, FCreateRequest& OutRequest)
-	{
-		for (int Index = 2; Index + 1 < ArgumentCount; Index += 2)
-		{
-			const std::string Option = Arguments[Index];
-			const FString Value = UTF8_TO_TCHAR(Arguments[Index + 1]);
-			if (Option == "--capture")
-			{
-				OutRequest.Capture = Value;
-			}
-			else if (Option == "--output")
-			{
-				OutRequest.Outputs.push_back(Value);
-			}
-			else if (Option == "--name")
-			{
-				OutRequest.Name = Value;
-			}
-			else
-			{
-				return false;
-			}
-		}
-		return (ArgumentCount % 2) == 0;
-	}
-
-	/** Uses the wizard as a user does: pick, tick, type, press Create. */
-	bool FillInAndCreate(const TSharedRef<SWidget>& Wizard, const FCreateRequest& Request)
-	{
-		const TSharedPtr<SComboBox<TSharedPtr<FString>>> Combo = FWidgetDriver::Find<SComboBox<TSharedPtr<FString>>>(Wizard, TEXT("SComboBox"));
-		const TArray<TSharedPtr<FString>>& Options = FWidgetDriver::GetComboOptions(Combo.ToSharedRef());
-		const TSharedPtr<FString>* Capture = Options.FindByPredicate([&Request](const TSharedPtr<FString>& Option)
-			{ return Option->Equals(Request.Capture); });
-		if (!Capture)
-		{
-			std::fprintf(stderr, "Unknown capture type \"%s\".\n", TCHAR_TO_UTF8(*Request.Capture));
-			return false;
-		}
-		FWidgetDriver::PickComboItem(Combo.ToSharedRef(), *Capture);
-
-		for (const FString& Output : Request.Outputs)
-		{
-			const TSharedPtr<SCheckBox> CheckBox = FWidgetDriver::Find<SCheckBox>(Wizard, TEXT("SCheckBox"), Output);
-			if (!CheckBox.IsValid())
-			{
-				std::fprintf(stderr, "Unknown output \"%s\".\n", TCHAR_TO_UTF8(*Output));
-				return false;
-			}
-			FWidgetDriver::ToggleCheckBox(CheckBox.ToSharedRef());
-		}
-
-		FWidgetDriver::TypeText(FWidgetDriver::Find<SEditableTextBox>(Wizard, TEXT("SEditableTextBox")).ToSharedRef(), FText::FromString(Request.Name));
-		return FWidgetDriver::Click(FWidgetDriver::Find<SButton>(Wizard, TEXT("SButton"), FString(TEXT("Create"))).ToSharedRef());
-	}
-
-	int RunCreate(int ArgumentCount, char** Arguments)
-	{
-		FCreateRequest Request;
-		if (!ParseCreateRequest(ArgumentCount, Arguments, Request))
-		{
-			return PrintUsage();
-		}
-		FHeadlessEditorSession Session;
-		const TSharedRef<SWidget> Wizard = OpenWizard();
-		if (!FillInAndCreate(Wizard, Request))
-		{
-			return 1;
-		}
-		Print(TEXT("After pressing Create, the wizard shows:\n"));
-		Print(FWidgetDriver::DescribeTree(Wizard));
-		Print(TEXT("\n"));
-		Print(CastellanReport::DescribeLevelAndAssets());
-		return 0;
-	}
-}
-
 int main(int ArgumentCount, char** Arguments)
 {
-	if (ArgumentCount < 2)
+	using namespace CastellanCommandLine;
+
+	const std::vector<FCommandSpec>& Commands = CastellanCommands::GetCommands();
+	const std::vector<std::string> Given(Arguments + 1, Arguments + ArgumentCount);
+	if (Given.empty())
 	{
-		return PrintUsage();
+		std::fputs(FormatUsage(Commands).c_str(), stderr);
+		return ExitBadCommandLine;
 	}
-	const std::string Command = Arguments[1];
-	if (Command == "wizard")
+	const FParseResult Result = Parse(Commands, Given);
+	if (!Result.Parsed)
 	{
-		return RunWizard();
+		std::fprintf(stderr, "%s: %s\n", ProgramName, Result.Error.c_str());
+		return ExitBadCommandLine;
 	}
-	if (Command == "menu")
+	const FParsedCommand& Parsed = *Result.Parsed;
+	if (Parsed.bHelp)
 	{
-		return RunMenu();
+		std::fputs((Parsed.Command ? FormatCommandUsage(*Parsed.Command) : FormatUsage(Commands)).c_str(), stdout);
+		return ExitDone;
 	}
-	if (Command == "create")
-	{
-		return RunCreate(ArgumentCount, Arguments);
-	}
-	return PrintUsage();
+	return Parsed.Command->Run(Parsed);
 }

@@ -1,27 +1,18 @@
 #include "Report.h"
 
 #include "CastellanEditorStyle.h"
-#include "Editor/TransBuffer.h"
-#include "Editor/Transactor.h"
-#include "Engine/TextureRenderTarget2D.h"
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Commands/UICommandInfo.h"
-#include "GameFramework/Actor.h"
+#include "Framework/Docking/TabManager.h"
 #include "Headless/HeadlessMenus.h"
 #include "HeadlessPropertyEditor.h"
 #include "IPlacementModeModule.h"
-#include "KyroMediaOutput.h"
-#include "KyroNDISenderManager.h"
-#include "KyroSpoutSenderManager.h"
-#include "KyroVirtualWebcamOutput.h"
-#include "LevelDriver.h"
-#include "ToolMenus.h"
-#include "UObject/Package.h"
-#include "Framework/Docking/TabManager.h"
 #include "Modules/ModuleManager.h"
+#include "PrintableText.h"
 #include "PropertyEditorModule.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
+#include "ToolMenus.h"
 #include "WidgetDriver.h"
 
 namespace
@@ -29,6 +20,34 @@ namespace
 	void AppendLine(FString& Out, int32 Depth, const FString& Line)
 	{
 		Out += FString::ChrN(Depth * 2, u' ') + Line + TEXT("\n");
+	}
+
+	/** A text from the editor, as it may be printed. */
+	FString Shown(const FString& Text)
+	{
+		return FPrintableText::Escape(Text);
+	}
+
+	FString Shown(const FText& Text)
+	{
+		return Shown(Text.ToString());
+	}
+
+	FString Shown(const FName& Name)
+	{
+		return Shown(Name.ToString());
+	}
+
+	/** An outline made by another part of the editor, escaped line by line. */
+	FString ShownLines(const FString& Outline)
+	{
+		TArray<FString> Lines;
+		Outline.ParseIntoArray(Lines, TEXT("\n"), false);
+		for (FString& Line : Lines)
+		{
+			Line = Shown(Line);
+		}
+		return FString::Join(Lines, TEXT("\n"));
 	}
 
 	void DescribeStyle(FString& Out)
@@ -40,7 +59,7 @@ namespace
 		}
 		TArray<FName> Keys;
 		static_cast<const FSlateStyleSet*>(Style)->GetBrushKeys(Keys);
-		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Style->GetStyleSetName().ToString(), Keys.Num()));
+		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Shown(Style->GetStyleSetName()), Keys.Num()));
 	}
 
 	void DescribeTab(FString& Out)
@@ -50,7 +69,7 @@ namespace
 		{
 			return;
 		}
-		AppendLine(Out, 1, FString::Printf(TEXT("Nomad tab \"LivestreamWizard\": \"%s\", tooltip \"%s\", icon %s"), *Spawner->GetDisplayName().ToString(), *Spawner->GetTooltipText().ToString(), *Spawner->GetIcon().GetStyleName().ToString()));
+		AppendLine(Out, 1, FString::Printf(TEXT("Nomad tab \"LivestreamWizard\": \"%s\", tooltip \"%s\", icon %s"), *Shown(Spawner->GetDisplayName()), *Shown(Spawner->GetTooltipText()), *Shown(Spawner->GetIcon().GetStyleName())));
 	}
 
 	void DescribeCommands(FString& Out)
@@ -83,7 +102,7 @@ namespace
 		}
 		TArray<TSharedPtr<FPlaceableItem>> Items;
 		IPlacementModeModule::Get().GetItemsForCategory(Category->UniqueHandle, Items);
-		AppendLine(Out, 1, FString::Printf(TEXT("Placement category \"%s\" (%s): %d actor classes"), *Category->DisplayName.ToString(), *Category->TagMetaData, Items.Num()));
+		AppendLine(Out, 1, FString::Printf(TEXT("Placement category \"%s\" (%s): %d actor classes"), *Shown(Category->DisplayName), *Shown(Category->TagMetaData), Items.Num()));
 	}
 
 	void DescribeCustomisations(FString& Out)
@@ -95,17 +114,17 @@ namespace
 		}
 		for (const FName TypeName : UE::Headless::GetCustomizedPropertyTypeNames())
 		{
-			AppendLine(Out, 1, FString::Printf(TEXT("Property type customisation: %s"), *TypeName.ToString()));
+			AppendLine(Out, 1, FString::Printf(TEXT("Property type customisation: %s"), *Shown(TypeName)));
 		}
 		for (const auto& Pair : PropertyEditor->GetClassNameToDetailLayoutNameMap())
 		{
-			AppendLine(Out, 1, FString::Printf(TEXT("Class customisation: %s"), *Pair.Key.ToString()));
+			AppendLine(Out, 1, FString::Printf(TEXT("Class customisation: %s"), *Shown(Pair.Key)));
 		}
 	}
 
-	FString DescribeObject(const UObject* Object)
+	FString DescribeObjectPath(const FString& Path)
 	{
-		return Object ? Object->GetPathName() : FString(TEXT("none"));
+		return Path.IsEmpty() ? FString(TEXT("none")) : Shown(Path);
 	}
 
 	FString DescribeVector(const FVector& Vector)
@@ -113,60 +132,83 @@ namespace
 		return FString::Printf(TEXT("(%.0f, %.0f, %.0f)"), Vector.X, Vector.Y, Vector.Z);
 	}
 
-	template <typename EntryType>
-	void DescribeSenders(FString& Out, const TArray<EntryType>& Senders)
+	void DescribeActor(FString& Out, const FActorSnapshot& Actor)
 	{
-		for (const EntryType& Sender : Senders)
+		AppendLine(Out, 1, FString::Printf(TEXT("%s (%s) at %s"), *Shown(Actor.Name), *Shown(Actor.ClassName), *DescribeVector(Actor.Location)));
+		for (const FSenderSnapshot& Sender : Actor.Senders)
 		{
-			AppendLine(Out, 2, FString::Printf(TEXT("sender \"%s\" (standalone \"%s\"), %s, render target %s"), *Sender.SenderName, *Sender.StandaloneSenderName, Sender.bEnabled ? TEXT("enabled") : TEXT("disabled"), *DescribeObject(Sender.RenderTarget)));
+			AppendLine(Out, 2, FString::Printf(TEXT("sender \"%s\" (standalone \"%s\"), %s, render target %s"), *Shown(Sender.Name), *Shown(Sender.StandaloneName), Sender.bEnabled ? TEXT("enabled") : TEXT("disabled"), *DescribeObjectPath(Sender.RenderTarget)));
+		}
+		if (Actor.OutputRenderTarget.IsSet())
+		{
+			AppendLine(Out, 2, FString::Printf(TEXT("render target %s"), *DescribeObjectPath(Actor.OutputRenderTarget.GetValue())));
 		}
 	}
 
-	void DescribeActor(FString& Out, AActor* Actor)
+	FString DescribeLevel(const FLevelSnapshot& Level)
 	{
-		AppendLine(Out, 1, FString::Printf(TEXT("%s (%s) at %s"), *Actor->GetName(), *Actor->GetClass()->GetName(), *DescribeVector(Actor->GetActorLocation())));
-		if (const AKyroSpoutSenderManager* Spout = Cast<AKyroSpoutSenderManager>(Actor))
+		FString Out;
+		AppendLine(Out, 0, TEXT("Level:"));
+		for (const FActorSnapshot& Actor : Level.Actors)
 		{
-			DescribeSenders(Out, Spout->Senders);
+			DescribeActor(Out, Actor);
 		}
-		else if (const AKyroNDISenderManager* NDI = Cast<AKyroNDISenderManager>(Actor))
+		AppendLine(Out, 0, TEXT("Selected:"));
+		for (const FString& Name : Level.SelectedActors)
 		{
-			DescribeSenders(Out, NDI->Senders);
+			AppendLine(Out, 1, Shown(Name));
 		}
-		else if (const AKyroMediaOutput* MediaOutput = Cast<AKyroMediaOutput>(Actor))
+		AppendLine(Out, 0, TEXT("Assets in /Game/LivestreamWizard:"));
+		for (const FAssetSnapshot& Asset : Level.Assets)
 		{
-			AppendLine(Out, 2, FString::Printf(TEXT("render target %s"), *DescribeObject(MediaOutput->RenderTarget)));
+			AppendLine(Out, 1, FString::Printf(TEXT("%s (%s), package %s"), *Shown(Asset.Path), *Shown(Asset.ClassName), Asset.bPackageDirty ? TEXT("modified, unsaved") : TEXT("saved")));
 		}
-		else if (const AKyroVirtualWebcamOutput* Webcam = Cast<AKyroVirtualWebcamOutput>(Actor))
+		AppendLine(Out, 0, TEXT("Undo history:"));
+		for (const FString& Title : Level.UndoHistory)
 		{
-			AppendLine(Out, 2, FString::Printf(TEXT("render target %s"), *DescribeObject(Webcam->RenderTarget)));
+			AppendLine(Out, 1, FString::Printf(TEXT("\"%s\""), *Shown(Title)));
 		}
+		return Out;
+	}
+
+	FString DescribeEditorMessage(const FEditorMessage& Message)
+	{
+		if (Message.Kind == FEditorMessage::EKind::MessageBox)
+		{
+			return TEXT("the editor showed a message box: ") + Shown(Message.Text);
+		}
+		const TCHAR* Level = Message.Verbosity == ELogVerbosity::Warning ? TEXT("a warning") : TEXT("an error");
+		return FString::Printf(TEXT("the editor logged %s (%s): %s"), Level, *Shown(Message.Category), *Shown(Message.Text));
 	}
 }
 
-FString CastellanReport::DescribeLevelAndAssets()
+FString CastellanReport::DescribeCreateResult(const FCreateResult& Result)
+{
+	return TEXT("After pressing Create, the wizard shows:\n") + Result.WizardOutline + TEXT("\n") + DescribeLevel(Result.Level);
+}
+
+FString CastellanReport::DescribeFailure(const FCreateResult& Result)
 {
 	FString Out;
-	AppendLine(Out, 0, TEXT("Level:"));
-	for (AActor* Actor : FLevelDriver::GetActors())
+	if (Result.Outcome == ECreateOutcome::Refused)
 	{
-		DescribeActor(Out, Actor);
+		AppendLine(Out, 0, TEXT("the wizard refused to create the livestream; it shows:"));
+		for (const FString& Warning : Result.Warnings)
+		{
+			AppendLine(Out, 1, Shown(Warning));
+		}
 	}
-	AppendLine(Out, 0, TEXT("Selected:"));
-	for (AActor* Actor : FLevelDriver::GetSelectedActors())
+	else if (Result.Outcome == ECreateOutcome::Failed)
 	{
-		AppendLine(Out, 1, Actor->GetName());
-	}
-	AppendLine(Out, 0, TEXT("Assets in /Game/LivestreamWizard:"));
-	for (UObject* Asset : FLevelDriver::GetAssets(TEXT("/Game/LivestreamWizard")))
-	{
-		AppendLine(Out, 1, FString::Printf(TEXT("%s (%s), package %s"), *Asset->GetPathName(), *Asset->GetClass()->GetName(), FLevelDriver::IsPackageDirty(Asset) ? TEXT("modified, unsaved") : TEXT("saved")));
-	}
-	AppendLine(Out, 0, TEXT("Undo history:"));
-	const UTransactor* History = FLevelDriver::GetTransactionHistory();
-	for (int32 Index = 0; History && Index < History->GetQueueLength(); ++Index)
-	{
-		AppendLine(Out, 1, FString::Printf(TEXT("\"%s\""), *History->GetTransaction(Index)->GetTitle().ToString()));
+		AppendLine(Out, 0, FString::Printf(TEXT("the wizard failed to create the livestream; it shows \"%s\""), *Shown(Result.DoneText)));
+		for (const FEditorMessage& Message : Result.EditorMessages)
+		{
+			AppendLine(Out, 1, DescribeEditorMessage(Message));
+		}
+		if (Result.EditorMessages.IsEmpty())
+		{
+			AppendLine(Out, 1, TEXT("the editor gave no reason: it showed no message box and logged no warning or error"));
+		}
 	}
 	return Out;
 }
@@ -182,8 +224,8 @@ FString CastellanReport::DescribeToolbarMenu()
 		AppendLine(Out, 0, TEXT("No toolbar button."));
 		return Out;
 	}
-	AppendLine(Out, 0, FString::Printf(TEXT("Toolbar \"LevelEditor.LevelEditorToolBar.AssetsToolBar\", section \"Content\": combo button \"%s\" (style %s)"), *Button->Label.Get().ToString(), *Button->StyleNameOverride.ToString()));
-	Out += UE::Headless::DescribeMenu(Button->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute());
+	AppendLine(Out, 0, FString::Printf(TEXT("Toolbar \"LevelEditor.LevelEditorToolBar.AssetsToolBar\", section \"Content\": combo button \"%s\" (style %s)"), *Shown(Button->Label.Get()), *Shown(Button->StyleNameOverride)));
+	Out += ShownLines(UE::Headless::DescribeMenu(Button->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute()));
 	return Out;
 }
 

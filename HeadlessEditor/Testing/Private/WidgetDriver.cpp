@@ -3,6 +3,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "Layout/Children.h"
+#include "PrintableText.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
@@ -63,7 +64,7 @@ namespace
 		const TOptional<FString> Text = GetOwnText(Widget);
 		if (Text.IsSet())
 		{
-			OutDescription += TEXT(" \"") + Text.GetValue() + TEXT("\"");
+			OutDescription += TEXT(" \"") + FPrintableText::Escape(Text.GetValue()) + TEXT("\"");
 		}
 		OutDescription += TEXT(" [") + Widget->GetVisibility().ToString() + (Widget->IsEnabled() ? TEXT(", enabled]") : TEXT(", disabled]"));
 		OutDescription += TEXT("\n");

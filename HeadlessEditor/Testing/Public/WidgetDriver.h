@@ -111,6 +111,6 @@ public:
 		return *ComboBox->OptionsSource;
 	}
 
-	/** An indented outline of the tree, one line per widget: type, "text", visibility, enabled state. */
+	/** An indented outline of the tree, one line per widget: type, "text" (escaped as FPrintableText does), visibility, enabled state. */
 	static FString DescribeTree(const TSharedRef<SWidget>& Root);
 };

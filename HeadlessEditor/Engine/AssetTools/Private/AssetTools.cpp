@@ -4,12 +4,15 @@
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "Factories/Factory.h"
+#include "Misc/MessageDialog.h"
 #include "Misc/PackageName.h"
 #include "Modules/ModuleManager.h"
 #include "Templates/UniquePtr.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/SoftObjectPath.h"
+
+#define LOCTEXT_NAMESPACE "AssetTools"
 
 namespace
 {
@@ -74,10 +77,12 @@ namespace
 		{
 			if (!ensure(AssetClass || Factory))
 			{
+				FMessageDialog::Open(EAppMsgType::Ok, LOCTEXT("MustSupplyClassOrFactory", "The new asset wasn't created due to a problem finding the appropriate factory or class for the new asset."));
 				return nullptr;
 			}
 			if (AssetClass && Factory && !ensure(AssetClass->IsChildOf(Factory->GetSupportedClass())))
 			{
+				FMessageDialog::Open(EAppMsgType::Ok, LOCTEXT("InvalidFactory", "The new asset wasn't created because the supplied factory does not support the supplied class."));
 				return nullptr;
 			}
 			const FString PackageName = SanitizePackageName(PackagePath + TEXT("/") + AssetName);
@@ -153,19 +158,30 @@ namespace
 	private:
 		/**
 		 * The engine's checks before creating: a valid object name and long package name, and no
-		 * object of that name in the package. Where the engine refuses, it shows the reason in a
-		 * message box (and asks whether to replace an existing object); the headless editor refuses
-		 * without asking, which is the answer an unattended editor gives.
+		 * object of that name in the package. Each refusal is shown in a message box, as the engine
+		 * shows it; for an existing object the box asks whether to replace it, and its default
+		 * answer, the one an unattended editor gives, is No.
 		 */
 		bool CanCreateAsset(const FString& AssetName, const FString& PackageName) const
 		{
 			FText Reason;
 			if (!FName::IsValidXName(AssetName, INVALID_OBJECTNAME_CHARACTERS, &Reason) || !FPackageName::IsValidLongPackageName(PackageName, false, &Reason))
 			{
+				FMessageDialog::Open(EAppMsgType::Ok, Reason);
 				return false;
 			}
 			UPackage* Package = CreatePackage(*PackageName);
-			return StaticFindObject(UObject::StaticClass(), Package, *AssetName) == nullptr;
+			const UObject* ExistingObject = StaticFindObject(UObject::StaticClass(), Package, *AssetName);
+			if (!ExistingObject)
+			{
+				return true;
+			}
+			const FText Question = FText::Format(NSLOCTEXT("UnrealEd", "ReplaceExistingObjectInPackage_F", "An object [{0}] of class [{1}] already exists in file [{2}].  Do you want to replace the existing object?  If you click 'Yes', the existing object will be deleted.  Otherwise, click 'No' and choose a unique name for your new object."),
+				FText::FromString(AssetName), FText::FromString(ExistingObject->GetClass()->GetName()), FText::FromString(PackageName));
+			// The headless editor cannot delete the existing asset to replace it, so the new one is not
+			// made whatever the answer; unattended, the answer is the default, No.
+			FMessageDialog::Open(EAppMsgType::YesNo, EAppReturnType::No, Question);
+			return false;
 		}
 	};
 
@@ -210,3 +226,5 @@ bool FAssetToolsModule::IsModuleLoaded()
 }
 
 IMPLEMENT_MODULE(FAssetToolsModule, AssetTools)
+
+#undef LOCTEXT_NAMESPACE

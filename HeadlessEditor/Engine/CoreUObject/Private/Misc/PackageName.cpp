@@ -8,9 +8,34 @@ namespace
 	const TCHAR* const WritableRoots[] = {TEXT("/Engine/"), TEXT("/Game/"), TEXT("/Temp/")};
 	const TCHAR* const ReadOnlyRoots[] = {TEXT("/Script/")};
 
+	// "/A/B": a slash, a root, a slash and a name.
+	constexpr int32 MinPackageNameLength = 4;
+
 	bool StartsWithRoot(const FString& Name, const TCHAR* Root)
 	{
 		return Name.StartsWith(Root, ESearchCase::IgnoreCase) && Name.Len() > FString(Root).Len();
+	}
+
+	/** The roots a valid name may begin with, as the engine lists them: "'/A/', '/B/', or '/C/'". */
+	FString ListRoots(bool bIncludeReadOnlyRoots)
+	{
+		TArray<FString> Roots;
+		for (const TCHAR* Root : WritableRoots)
+		{
+			Roots.Add(FString::Printf(TEXT("'%s'"), Root));
+		}
+		for (const TCHAR* Root : ReadOnlyRoots)
+		{
+			if (bIncludeReadOnlyRoots)
+			{
+				Roots.Add(FString::Printf(TEXT("'%s'"), Root));
+			}
+		}
+		if (Roots.Num() > 1)
+		{
+			Roots.Last() = TEXT("or ") + Roots.Last();
+		}
+		return FString::Join(Roots, TEXT(", "));
 	}
 }
 
@@ -35,26 +60,30 @@ FString FPackageName::GetShortName(const FString& LongName)
 bool FPackageName::IsValidLongPackageName(FStringView InLongPackageName, bool bIncludeReadOnlyRoots, FText* OutReason)
 {
 	const FString Name(InLongPackageName.Len(), InLongPackageName.GetData());
+	FFormatNamedArguments Args;
+	Args.Add(TEXT("InPath"), FText::FromString(Name));
 	FText Reason;
 	bool bValid = false;
-	if (Name.Len() < 4)
+	if (Name.Len() < MinPackageNameLength)
 	{
-		Reason = NSLOCTEXT("Core", "LongPackageNames_PathTooShort", "Path should be no less than 4 characters long.");
+		Reason = FText::Format(NSLOCTEXT("Core", "LongPackageNames_PathTooShort", "Input '{1}' contains fewer than the minimum number of characters {0} for LongPackageNames."), FText::AsNumber(MinPackageNameLength), FText::FromString(Name));
 	}
 	else if (Name[0] != TEXT('/'))
 	{
-		Reason = NSLOCTEXT("Core", "LongPackageNames_PathWithNoStartingSlash", "Path should start with a '/'");
+		Reason = FText::Format(NSLOCTEXT("Core", "LongPackageNames_PathWithNoStartingSlash", "Input '{InPath}' does not start with a '/', which is required for LongPackageNames."), Args);
 	}
 	else if (Name[Name.Len() - 1] == TEXT('/'))
 	{
-		Reason = NSLOCTEXT("Core", "LongPackageNames_PathWithTrailingSlash", "Path may not end with a '/'");
+		Reason = FText::Format(NSLOCTEXT("Core", "LongPackageNames_PathWithTrailingSlash", "Input '{InPath}' ends with a '/', which is invalid for LongPackageNames."), Args);
 	}
 	else if (Name.Contains(TEXT("//")))
 	{
-		Reason = NSLOCTEXT("Core", "LongPackageNames_PathWithDoubleSlash", "Path contains double '/'");
+		Reason = FText::Format(NSLOCTEXT("Core", "LongPackageNames_PathWithDoubleSlash", "Input '{InPath}' contains '//', which is invalid for LongPackageNames."), Args);
 	}
-	else if (!FName::IsValidXName(Name, INVALID_LONGPACKAGE_CHARACTERS, &Reason, nullptr))
+	else if (!FName::IsValidXName(Name, INVALID_LONGPACKAGE_CHARACTERS))
 	{
+		Args.Add(TEXT("IllegalNameCharacters"), FText::FromString(INVALID_LONGPACKAGE_CHARACTERS));
+		Reason = FText::Format(NSLOCTEXT("Core", "PackageNameContainsInvalidCharacters", "Input '{InPath}' contains one of the invalid characters for LongPackageNames: '{IllegalNameCharacters}'."), Args);
 	}
 	else
 	{
@@ -68,7 +97,7 @@ bool FPackageName::IsValidLongPackageName(FStringView InLongPackageName, bool bI
 		}
 		if (!bValid)
 		{
-			Reason = NSLOCTEXT("Core", "LongPackageNames_InvalidRoot", "Path does not start with a valid root.");
+			Reason = FText::Format(NSLOCTEXT("Core", "LongPackageNames_InvalidRoot", "Path does not start with a valid root. Path must begin with: {0}"), FText::FromString(ListRoots(bIncludeReadOnlyRoots)));
 		}
 	}
 	if (!bValid && OutReason)

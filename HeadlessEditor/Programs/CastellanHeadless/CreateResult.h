@@ -1,0 +1,94 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Logging/LogVerbosity.h"
+#include "Misc/Optional.h"
+
+/** What to fill into the Livestream Wizard before pressing Create. */
+struct FCreateRequest
+{
+	/** The capture type to pick; unset keeps the wizard's own selection. */
+	TOptional<FString> Capture;
+	/** The captions of the outputs to tick. */
+	TArray<FString> Outputs;
+	FString Name;
+};
+
+/** A sender entry of a Spout or NDI sender manager. */
+struct FSenderSnapshot
+{
+	FString Name;
+	FString StandaloneName;
+	bool bEnabled = false;
+	/** The render target's object path; empty when it has none. */
+	FString RenderTarget;
+};
+
+struct FActorSnapshot
+{
+	FString Name;
+	FString ClassName;
+	FVector Location;
+	/** The sender entries of a sender manager. */
+	TArray<FSenderSnapshot> Senders;
+	/** For a media output or virtual webcam: its render target's object path, empty when it has none. */
+	TOptional<FString> OutputRenderTarget;
+};
+
+struct FAssetSnapshot
+{
+	FString Path;
+	FString ClassName;
+	bool bPackageDirty = false;
+};
+
+/** What the editor holds about the open level after the wizard ran. */
+struct FLevelSnapshot
+{
+	TArray<FActorSnapshot> Actors;
+	TArray<FString> SelectedActors;
+	/** The assets in the wizard's content folder. */
+	TArray<FAssetSnapshot> Assets;
+	/** The titles of the undo history, oldest first. */
+	TArray<FString> UndoHistory;
+};
+
+/** Something the editor reported while the wizard ran: a message box, or a log line of warning level or worse. */
+struct FEditorMessage
+{
+	enum class EKind
+	{
+		MessageBox,
+		LogLine
+	};
+
+	EKind Kind = EKind::MessageBox;
+	FString Text;
+	/** For a log line: its category and verbosity. */
+	FString Category;
+	ELogVerbosity::Type Verbosity = ELogVerbosity::NoLogging;
+};
+
+enum class ECreateOutcome
+{
+	/** The done page reports the setup built. */
+	Created,
+	/** The wizard stayed on its steps with warning lines. */
+	Refused,
+	/** The done page reports an error. */
+	Failed
+};
+
+/** What pressing Create did, as the wizard and the editor show it. */
+struct FCreateResult
+{
+	ECreateOutcome Outcome = ECreateOutcome::Refused;
+	/** The done page's result line (created or failed). */
+	FString DoneText;
+	/** The warning lines shown under the wizard's steps (refused). */
+	TArray<FString> Warnings;
+	TArray<FEditorMessage> EditorMessages;
+	/** The wizard's widget tree after pressing Create. */
+	FString WizardOutline;
+	FLevelSnapshot Level;
+};

@@ -1,0 +1,122 @@
+#include "ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+	const char* const Program = "castellan-headless: ";
+	const char* const NothingBuilt = "\nLevel:\nSelected:\nAssets in /Game/LivestreamWizard:\nUndo history:\n";
+	// The asset's package path is the wizard's folder, the name and, when numbered, up to ten digits.
+	const size_t LongestName = 1023 - 10 - std::string("/Game/LivestreamWizard/").size();
+
+	/** Expects a create that failed: exit status 1, nothing built, the done page and Reason on standard error. */
+	void ExpectFailure(const FProgramRun& Run, const std::string& DoneText, const std::string& Reason)
+	{
+		EXPECT_EQ(Run.ExitCode, 1);
+		EXPECT_TRUE(Contains(Run.Out, "STextBlock \"" + DoneText + "\" [Visible, enabled]\n"));
+		EXPECT_TRUE(EndsWith(Run.Out, NothingBuilt));
+		EXPECT_EQ(Run.Err, Program + std::string("the wizard failed to create the livestream; it shows \"") + DoneText + "\"\n  " + Reason + "\n");
+	}
+}
+
+TEST(CreateCommand, ARefusedCreateExits1WithTheWarningLines)
+{
+	const FProgramRun Both = RunCastellanHeadless({"create"});
+	EXPECT_EQ(Both.ExitCode, 1);
+	EXPECT_EQ(Both.Err, Program + std::string("the wizard refused to create the livestream; it shows:\n"
+											  "  ! Select at least one output type.\n"
+											  "  ! LivestreamWizard Name cannot be empty.\n"));
+	// The report still shows the wizard's steps with the warnings, and an untouched level.
+	EXPECT_TRUE(Contains(Both.Out, "STextBlock \"! Select at least one output type.\" [Visible, enabled]\n"));
+	EXPECT_TRUE(EndsWith(Both.Out, NothingBuilt));
+
+	const FProgramRun NoOutput = RunCastellanHeadless({"create", "--name", "Stage"});
+	EXPECT_EQ(NoOutput.ExitCode, 1);
+	EXPECT_EQ(NoOutput.Err, Program + std::string("the wizard refused to create the livestream; it shows:\n  ! Select at least one output type.\n"));
+
+	const FProgramRun BlankName = RunCastellanHeadless({"create", "--output", "NDI", "--name", " \t"});
+	EXPECT_EQ(BlankName.ExitCode, 1);
+	EXPECT_EQ(BlankName.Err, Program + std::string("the wizard refused to create the livestream; it shows:\n  ! LivestreamWizard Name cannot be empty.\n"));
+}
+
+TEST(CreateCommand, ANameWithNoAssetPartFailsWithTheEnginesReason)
+{
+	const std::string Reason = "the editor showed a message box: Input '/Game/LivestreamWizard/' ends with a '/', which is invalid for LongPackageNames.";
+
+	ExpectFailure(RunCastellanHeadless({"create", "--output", "Spout", "--name", "Stage/"}), "ERROR: Failed to create Livestream 'Stage/'!", Reason);
+	ExpectFailure(RunCastellanHeadless({"create", "--output", "Spout", "--name", "///"}), "ERROR: Failed to create Livestream '///'!", Reason);
+}
+
+TEST(CreateCommand, TheLongestNameIsCreatedAndOneLongerFailsWithoutAReasonFromTheEditor)
+{
+	const std::string Longest(LongestName, 'a');
+	const FProgramRun Accepted = RunCastellanHeadless({"create", "--output", "NDI", "--name", Longest});
+	EXPECT_EQ(Accepted.ExitCode, 0);
+	EXPECT_EQ(Accepted.Err, "");
+	EXPECT_TRUE(Contains(Accepted.Out, "  /Game/LivestreamWizard/" + Longest + "." + Longest + " (TextureRenderTarget2D)"));
+
+	// The wizard refuses such a name before asking the engine for anything, and says nothing.
+	const std::string TooLong = Longest + "a";
+	ExpectFailure(RunCastellanHeadless({"create", "--output", "NDI", "--name", TooLong}), "ERROR: Failed to create Livestream '" + TooLong + "'!",
+		"the editor gave no reason: it showed no message box and logged no warning or error");
+}
+
+TEST(CreateCommand, AnOutputGivenTwiceIsTickedOnce)
+{
+	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "Spout", "--output", "Spout", "--name", "Stage"});
+
+	EXPECT_EQ(Run.ExitCode, 0);
+	EXPECT_EQ(Run.Err, "");
+	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Stage' created!\""));
+	EXPECT_TRUE(Contains(Run.Out, "  KyroSpoutSenderManager_0 (KyroSpoutSenderManager) at (0, 0, 0)\n    sender \"Stage\" (standalone \"Stage_Standalone\"), enabled, "));
+}
+
+TEST(CreateCommand, EachCaptureTypePlacesItsActorAtTheCamera)
+{
+	const FProgramRun ThreeSixty = RunCastellanHeadless({"create", "--capture", "Kyro 360 Camera", "--output", "Virtual Webcam", "--name", "Dome"});
+	EXPECT_EQ(ThreeSixty.ExitCode, 0);
+	EXPECT_TRUE(Contains(ThreeSixty.Out, "\nLevel:\n  Kyro360CamCapture_0 (Kyro360CamCapture) at (0, 1024, 512)\n  KyroVirtualWebcamOutput_0 (KyroVirtualWebcamOutput) at (0, 0, 0)\n    render target /Game/LivestreamWizard/Dome.Dome\n"));
+
+	const FProgramRun Viewport = RunCastellanHeadless({"create", "--capture", "Kyro Viewport Capture", "--output", "NDI", "--name", "View"});
+	EXPECT_EQ(Viewport.ExitCode, 0);
+	EXPECT_TRUE(Contains(Viewport.Out, "\nLevel:\n  KyroViewportCapture_0 (KyroViewportCapture) at (0, 1024, 512)\n"));
+}
+
+TEST(CreateCommand, ANonLatinNamePrintsAsUtf8)
+{
+	const std::string Japanese = "\xe3\x83\xa9\xe3\x82\xa4\xe3\x83\x96\xe9\x85\x8d\xe4\xbf\xa1"; // ライブ配信
+
+	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "Spout", "--name", Japanese});
+
+	EXPECT_EQ(Run.ExitCode, 0);
+	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"" + Japanese + "\" [Visible, enabled]\n"));
+	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream '" + Japanese + "' created!\""));
+	EXPECT_TRUE(Contains(Run.Out, "    sender \"" + Japanese + "\" (standalone \"" + Japanese + "_Standalone\"), enabled, render target /Game/LivestreamWizard/" + Japanese + "." + Japanese + "\n"));
+}
+
+TEST(CreateCommand, ControlCharactersInANamePrintEscaped)
+{
+	// A tab, an escape sequence, DEL, the C1 control CSI and a line feed.
+	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "Spout", "--name", "Main\tStage\x1b[31m\x7f\xc2\x9b\nEnd"});
+
+	EXPECT_EQ(Run.ExitCode, 0);
+	EXPECT_FALSE(ContainsRawControlCharacters(Run.Out));
+	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"Main\\tStage\\x1B[31m\\x7F\\u009B\\nEnd\" [Visible, enabled]\n"));
+	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage\\x1B[31m\\x7F\\u009B\\nEnd' created!\""));
+	// The asset tools replace the tab, bracket and line feed; the others stay in the sender's name.
+	EXPECT_TRUE(Contains(Run.Out, "    sender \"Main_Stage\\x1B_31m\\x7F\\u009B_End\" (standalone \"Main_Stage\\x1B_31m\\x7F\\u009B_End_Standalone\")"));
+
+	const FProgramRun Failed = RunCastellanHeadless({"create", "--output", "Spout", "--name", "\x1b]0;title\x07/"});
+	EXPECT_EQ(Failed.ExitCode, 1);
+	EXPECT_FALSE(ContainsRawControlCharacters(Failed.Out));
+	EXPECT_FALSE(ContainsRawControlCharacters(Failed.Err));
+	EXPECT_TRUE(Contains(Failed.Err, "it shows \"ERROR: Failed to create Livestream '\\x1B]0;title\\x07/'!\"\n"));
+}
+
+TEST(CreateCommand, ABackslashInANamePrintsDoubled)
+{
+	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "NDI", "--name", "A\\tB"});
+
+	EXPECT_EQ(Run.ExitCode, 0);
+	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"A\\\\tB\" [Visible, enabled]\n"));
+}
