@@ -544,7 +544,7 @@ bool SLivestreamWizard::CreateSetup() const
 	{
 		return true;
 	}
-	// A failed create leaves nothing behind: its actors go, and it is no undo step.
+	// A failed create leaves nothing behind: its actors go, and no undo step remains.
 	for (AActor* Actor : SpawnedActors)
 	{
 		Actor->Destroy();

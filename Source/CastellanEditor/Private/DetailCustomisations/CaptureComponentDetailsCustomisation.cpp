@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
 
 #include "Components/SceneCaptureComponent.h"
