@@ -5,6 +5,7 @@
 #include "Containers/Set.h"
 #include "DetailLayoutBuilder.h"
 #include "DetailWidgetRow.h"
+#include "HAL/UnrealMemory.h"
 #include "IDetailChildrenBuilder.h"
 #include "Misc/Crc.h"
 #include "PropertyHandle.h"
@@ -17,19 +18,37 @@
 
 namespace
 {
-	/** A live sender during an update: its name, and whether an option lists it yet. */
+	/** A sender name and its hash, taken once per update. */
+	struct FSenderName
+	{
+		explicit FSenderName(const FString& InName)
+			: Name(&InName)
+			, Hash(FCrc::MemCrc32(*InName, InName.Len() * sizeof(TCHAR)))
+		{
+		}
+
+		/** Exact equality, the same characters: names that differ in letter case are different senders. */
+		bool operator==(const FSenderName& Other) const
+		{
+			return Hash == Other.Hash && Name->Len() == Other.Name->Len() && FMemory::Memcmp(**Name, **Other.Name, Name->Len() * sizeof(TCHAR)) == 0;
+		}
+
+		const FString* Name;
+		uint32 Hash;
+	};
+
+	/** A live sender during an update, and whether an option lists it yet. */
 	struct FLiveSender
 	{
-		const FString* Name;
+		FSenderName Name;
 		bool bListed;
 	};
 
-	/** Live senders by name, compared exactly: names that differ in letter case are different senders. */
-	struct FLiveSenderKeyFuncs : BaseKeyFuncs<FLiveSender, FString>
+	struct FLiveSenderKeyFuncs : BaseKeyFuncs<FLiveSender, FSenderName>
 	{
-		static const FString& GetSetKey(const FLiveSender& Sender) { return *Sender.Name; }
-		static bool Matches(const FString& A, const FString& B) { return A.Equals(B, ESearchCase::CaseSensitive); }
-		static uint32 GetKeyHash(const FString& Key) { return FCrc::StrCrc32(*Key); }
+		static const FSenderName& GetSetKey(const FLiveSender& Sender) { return Sender.Name; }
+		static bool Matches(const FSenderName& A, const FSenderName& B) { return A == B; }
+		static uint32 GetKeyHash(const FSenderName& Key) { return Key.Hash; }
 	};
 }
 
@@ -46,14 +65,17 @@ TArray<TSharedPtr<FString>> FActiveSenderNameList::UpdateSenderNameOptions(FStri
 		SenderNameOptions.Add(MakeShared<FString>(UseFirstAvailableSenderOption));
 	}
 
-	// The set points into LiveNames, which outlives it.
+	// The names point into LiveNames and the options, which outlive them.
+	TArray<FSenderName> LiveSenderNames;
+	LiveSenderNames.Reserve(LiveNames.Num());
 	TSet<FLiveSender, FLiveSenderKeyFuncs> LiveSenders;
 	LiveSenders.Reserve(LiveNames.Num());
 	for (const FString& LiveName : LiveNames)
 	{
-		LiveSenders.Add({&LiveName, false});
+		LiveSenders.Add({LiveSenderNames.Emplace_GetRef(LiveName), false});
 	}
-	const bool bCurrentIsLive = LiveSenders.Contains(CurrentName);
+	const FSenderName Current(CurrentName);
+	const bool bCurrentIsLive = LiveSenders.Contains(Current);
 	OnCurrentSenderLost.Broadcast(!bUseFirstAvailableSender && !bCurrentIsLive);
 
 	// Entry 0 stays; the others stay, in their order, while their sender is live or they are the stored name.
@@ -61,8 +83,9 @@ TArray<TSharedPtr<FString>> FActiveSenderNameList::UpdateSenderNameOptions(FStri
 	int32 NumKept = 1;
 	for (int32 Index = 1; Index < SenderNameOptions.Num(); ++Index)
 	{
-		FLiveSender* LiveSender = LiveSenders.Find(*SenderNameOptions[Index]);
-		const bool bIsCurrent = SenderNameOptions[Index]->Equals(CurrentName, ESearchCase::CaseSensitive);
+		const FSenderName Option(*SenderNameOptions[Index]);
+		FLiveSender* LiveSender = LiveSenders.Find(Option);
+		const bool bIsCurrent = Option == Current;
 		if (!LiveSender && !bIsCurrent)
 		{
 			continue;
@@ -81,13 +104,13 @@ TArray<TSharedPtr<FString>> FActiveSenderNameList::UpdateSenderNameOptions(FStri
 	SenderNameOptions.SetNum(NumKept);
 
 	// Senders that are new follow, once each, in the runtime's order.
-	for (const FString& LiveName : LiveNames)
+	for (const FSenderName& LiveSenderName : LiveSenderNames)
 	{
-		FLiveSender* LiveSender = LiveSenders.Find(LiveName);
+		FLiveSender* LiveSender = LiveSenders.Find(LiveSenderName);
 		if (!LiveSender->bListed)
 		{
 			LiveSender->bListed = true;
-			SenderNameOptions.Add(MakeShared<FString>(LiveName));
+			SenderNameOptions.Add(MakeShared<FString>(*LiveSenderName.Name));
 		}
 	}
 
