@@ -132,11 +132,14 @@ TEST_F(CaptureComponentShowFlag, FlagsAreGroupedAsTheEngineGroupsThemBelowTheCat
 
 	const TArray<TSharedRef<FHeadlessDetailRow>> Groups = GetGroups();
 	const TCHAR* ExpectedLabels[] = {TEXT("General Show Flags"), TEXT("Advanced Show Flags"), TEXT("Post Processing Show Flags"), TEXT("Light Types Show Flags"), TEXT("Lighting Components Show Flags"), TEXT("Lighting Features Show Flags"), TEXT("Hidden Show Flags")};
+	const TCHAR* ExpectedKeys[] = {TEXT("CommonShowFlagHeader"), TEXT("AdvancedShowFlagsMenu"), TEXT("PostProcessShowFlagsMenu"), TEXT("LightTypesShowFlagsMenu"), TEXT("LightingComponentsShowFlagsMenu"), TEXT("LightingFeaturesShowFlagsMenu"), TEXT("HiddenShowFlagsMenu")};
 	const int32 ExpectedCounts[] = {11, 8, 5, 1, 2, 8, 4};
 	ASSERT_EQ(Groups.Num(), 7);
 	for (int32 Index = 0; Index < Groups.Num(); ++Index)
 	{
 		EXPECT_TRUE(Groups[Index]->DisplayName.ToString().Equals(ExpectedLabels[Index])) << Index;
+		EXPECT_TRUE(FTextInspector::GetNamespace(Groups[Index]->DisplayName).Get(FString()).Equals(TEXT("CaptureComponentDetailsCustomisation"))) << Index;
+		EXPECT_TRUE(FTextInspector::GetKey(Groups[Index]->DisplayName).Get(FString()).Equals(ExpectedKeys[Index])) << Index;
 		EXPECT_EQ(Groups[Index]->Name, FName(ExpectedLabels[Index]));
 		EXPECT_EQ(Groups[Index]->Children.Num(), ExpectedCounts[Index]) << Index;
 		EXPECT_TRUE(Groups[Index]->bAdvanced);
@@ -216,10 +219,12 @@ TEST_F(CaptureComponentShowFlag, AnArchetypesOwnFlagsAreTheDefaults)
 	UKyro360CaptureComponent* Archetype = MakeComponent<UKyro360CaptureComponent>();
 	Archetype->SetFlags(RF_ArchetypeObject);
 	Archetype->ShowFlags.SetSingleFlag(FEngineShowFlags::SF_Bloom, false);
+	Archetype->ShowFlags.SetSingleFlag(FEngineShowFlags::SF_MotionBlur, true);
 	UKyro360CaptureComponent* Component = MakeComponent<UKyro360CaptureComponent>(Archetype);
 	ASSERT_EQ(Component->GetArchetype(), Archetype);
 	Show({Component});
 
+	EXPECT_EQ(FindBox(TEXT("Motion Blur"))->GetCheckedState(), ECheckBoxState::Checked);
 	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
 	EXPECT_EQ(Bloom->GetCheckedState(), ECheckBoxState::Unchecked);
 	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));

@@ -168,6 +168,9 @@ TYPED_TEST(SenderNamePicker, ChoosingEntriesWritesTheFlagAndTheName)
 	FWidgetDriver::PickComboItem(Combo.ToSharedRef(), Items[0]);
 	EXPECT_TRUE(Receiver->Receiver.UseFirstAvailableSender);
 	EXPECT_EQ(Receiver->Receiver.Name, TEXT("Use first available sender"));
+	FWidgetDriver::PickComboItem(Combo.ToSharedRef(), Items[1]);
+	EXPECT_FALSE(Receiver->Receiver.UseFirstAvailableSender);
+	EXPECT_TRUE(Receiver->Receiver.Name.Equals(TEXT("Studio"), ESearchCase::CaseSensitive));
 }
 
 TYPED_TEST(SenderNamePicker, TwoReceiversShareOneOptionList)
