@@ -6,10 +6,14 @@
 #include "Kyro360CaptureComponent.h"
 #include "KyroCGCaptureComponent.h"
 #include "KyroCaptureComponent.h"
+#include "LevelDriver.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
+#include "ScopedTransaction.h"
 #include "ShowFlags.h"
 #include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
 #include "WidgetDriver.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Text/STextBlock.h"
@@ -20,7 +24,7 @@ namespace
 {
 	const TCHAR* CategoryName = TEXT("Nimbrel Capture Settings");
 
-	class CaptureComponentShowFlagTests : public ::testing::Test
+	class CaptureComponentShowFlag : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override { Session = MakeUnique<FHeadlessEditorSession>(Options); }
@@ -117,7 +121,7 @@ namespace
 	};
 }
 
-TEST_F(CaptureComponentShowFlagTests, FlagsAreGroupedAsTheEngineGroupsThemBelowTheCategorysOwnProperties)
+TEST_F(CaptureComponentShowFlag, FlagsAreGroupedAsTheEngineGroupsThemBelowTheCategorysOwnProperties)
 {
 	Show({MakeComponent<UKyroCaptureComponent>()});
 
@@ -129,11 +133,14 @@ TEST_F(CaptureComponentShowFlagTests, FlagsAreGroupedAsTheEngineGroupsThemBelowT
 
 	const TArray<TSharedRef<FHeadlessDetailRow>> Groups = GetGroups();
 	const TCHAR* ExpectedLabels[] = {TEXT("General Show Flags"), TEXT("Advanced Show Flags"), TEXT("Post Processing Show Flags"), TEXT("Light Types Show Flags"), TEXT("Lighting Components Show Flags"), TEXT("Lighting Features Show Flags"), TEXT("Hidden Show Flags")};
+	const TCHAR* ExpectedKeys[] = {TEXT("CommonShowFlagHeader"), TEXT("AdvancedShowFlagsMenu"), TEXT("PostProcessShowFlagsMenu"), TEXT("LightTypesShowFlagsMenu"), TEXT("LightingComponentsShowFlagsMenu"), TEXT("LightingFeaturesShowFlagsMenu"), TEXT("HiddenShowFlagsMenu")};
 	const int32 ExpectedCounts[] = {11, 8, 5, 1, 2, 8, 4};
 	ASSERT_EQ(Groups.Num(), 7);
 	for (int32 Index = 0; Index < Groups.Num(); ++Index)
 	{
 		EXPECT_TRUE(Groups[Index]->DisplayName.ToString().Equals(ExpectedLabels[Index])) << Index;
+		EXPECT_TRUE(FTextInspector::GetNamespace(Groups[Index]->DisplayName).Get(FString()).Equals(TEXT("CaptureComponentDetailsCustomisation"))) << Index;
+		EXPECT_TRUE(FTextInspector::GetKey(Groups[Index]->DisplayName).Get(FString()).Equals(ExpectedKeys[Index])) << Index;
 		EXPECT_EQ(Groups[Index]->Name, FName(ExpectedLabels[Index]));
 		EXPECT_EQ(Groups[Index]->Children.Num(), ExpectedCounts[Index]) << Index;
 		EXPECT_TRUE(Groups[Index]->bAdvanced);
@@ -141,7 +148,27 @@ TEST_F(CaptureComponentShowFlagTests, FlagsAreGroupedAsTheEngineGroupsThemBelowT
 	}
 }
 
-TEST_F(CaptureComponentShowFlagTests, FlagsAreSortedByDisplayName)
+TEST_F(CaptureComponentShowFlag, TheThirtyNineOfferedFlagsKeepTheirGroupsAndOrder)
+{
+	Show({MakeComponent<UKyroCaptureComponent>()});
+
+	const TArray<TArray<FString>> Expected = {
+		{TEXT("Anti-aliasing"), TEXT("Atmosphere"), TEXT("BSP"), TEXT("Cloud"), TEXT("Decals"), TEXT("Fog"), TEXT("Landscape"), TEXT("Particle Sprites"), TEXT("Skeletal Meshes"), TEXT("Static Meshes"), TEXT("Translucency")},
+		{TEXT("DeferredLighting"), TEXT("Foliage"), TEXT("Grass"), TEXT("Instanced Static Meshes"), TEXT("Nanite Meshes"), TEXT("Paper 2D Sprites"), TEXT("Render (3D) Text"), TEXT("Temporal AA (instead FXAA)")},
+		{TEXT("Bloom"), TEXT("Eye Adaptation"), TEXT("Local Exposure"), TEXT("Motion Blur"), TEXT("Tone Curve")},
+		{TEXT("Sky Lighting")},
+		{TEXT("Ambient Occlusion"), TEXT("Dynamic Shadows")},
+		{TEXT("Ambient Cubemap"), TEXT("Distance Field Ambient Occlusion"), TEXT("Light Functions"), TEXT("Light Shafts"), TEXT("Reflection Environment"), TEXT("Screen Space Reflections"), TEXT("Textured Light Profiles (IES Texture)"), TEXT("Volumetric Fog")},
+		{TEXT("Game"), TEXT("Lighting"), TEXT("Path tracing"), TEXT("Post-processing")},
+	};
+	ASSERT_EQ(GetGroups().Num(), Expected.Num());
+	for (int32 Group = 0; Group < Expected.Num(); ++Group)
+	{
+		EXPECT_EQ(GetGroupLabels(Group), Expected[Group]) << *GetGroups()[Group]->DisplayName.ToString();
+	}
+}
+
+TEST_F(CaptureComponentShowFlag, FlagsAreSortedByDisplayName)
 {
 	Show({MakeComponent<UKyroCaptureComponent>()});
 
@@ -160,7 +187,7 @@ TEST_F(CaptureComponentShowFlagTests, FlagsAreSortedByDisplayName)
 	EXPECT_EQ(FWidgetDriver::GetFont(*Label).Size, 8.0f);
 }
 
-TEST_F(CaptureComponentShowFlagTests, FlagsMissingFromTheBuildAreSkippedAndEmptyGroupsLeftOut)
+TEST_F(CaptureComponentShowFlag, FlagsMissingFromTheBuildAreSkippedAndEmptyGroupsLeftOut)
 {
 	UE::Headless::SetShowFlagsMissingFromBuild({FEngineShowFlags::SF_SkyLighting, FEngineShowFlags::SF_Bloom});
 	Show({MakeComponent<UKyroCaptureComponent>()});
@@ -171,7 +198,7 @@ TEST_F(CaptureComponentShowFlagTests, FlagsMissingFromTheBuildAreSkippedAndEmpty
 	EXPECT_TRUE(Groups[3]->DisplayName.ToString().Equals(TEXT("Lighting Components Show Flags")));
 }
 
-TEST_F(CaptureComponentShowFlagTests, BoxesShowOverridesOrElseTheArchetypesFlags)
+TEST_F(CaptureComponentShowFlag, BoxesShowOverridesOrElseTheArchetypesFlags)
 {
 	UKyroCaptureComponent* Component = MakeComponent<UKyroCaptureComponent>();
 	AddSetting(Component, TEXT("fog"), false);
@@ -188,15 +215,17 @@ TEST_F(CaptureComponentShowFlagTests, BoxesShowOverridesOrElseTheArchetypesFlags
 	EXPECT_EQ(FindBox(TEXT("Fog"))->GetCheckedState(), ECheckBoxState::Checked);
 }
 
-TEST_F(CaptureComponentShowFlagTests, AnArchetypesOwnFlagsAreTheDefaults)
+TEST_F(CaptureComponentShowFlag, AnArchetypesOwnFlagsAreTheDefaults)
 {
 	UKyro360CaptureComponent* Archetype = MakeComponent<UKyro360CaptureComponent>();
 	Archetype->SetFlags(RF_ArchetypeObject);
 	Archetype->ShowFlags.SetSingleFlag(FEngineShowFlags::SF_Bloom, false);
+	Archetype->ShowFlags.SetSingleFlag(FEngineShowFlags::SF_MotionBlur, true);
 	UKyro360CaptureComponent* Component = MakeComponent<UKyro360CaptureComponent>(Archetype);
 	ASSERT_EQ(Component->GetArchetype(), Archetype);
 	Show({Component});
 
+	EXPECT_EQ(FindBox(TEXT("Motion Blur"))->GetCheckedState(), ECheckBoxState::Checked);
 	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
 	EXPECT_EQ(Bloom->GetCheckedState(), ECheckBoxState::Unchecked);
 	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
@@ -204,7 +233,7 @@ TEST_F(CaptureComponentShowFlagTests, AnArchetypesOwnFlagsAreTheDefaults)
 	EXPECT_TRUE(FindSetting(Component, TEXT("Bloom"))->Enabled);
 }
 
-TEST_F(CaptureComponentShowFlagTests, ComponentsThatDisagreeShowUndeterminedAndAClickSetsBoth)
+TEST_F(CaptureComponentShowFlag, ComponentsThatDisagreeShowUndeterminedAndAClickSetsBoth)
 {
 	UKyroCaptureComponent* First = MakeComponent<UKyroCaptureComponent>();
 	UKyroCaptureComponent* Second = MakeComponent<UKyroCaptureComponent>();
@@ -220,7 +249,7 @@ TEST_F(CaptureComponentShowFlagTests, ComponentsThatDisagreeShowUndeterminedAndA
 	ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
 	const ECheckBoxState AfterClick = Bloom->GetCheckedState();
 	ASSERT_NE(AfterClick, ECheckBoxState::Undetermined);
-	EXPECT_GT(View->GetFinishedChangingCount(), FinishedBefore);
+	EXPECT_EQ(View->GetFinishedChangingCount(), FinishedBefore + 1);
 
 	const bool bValue = AfterClick == ECheckBoxState::Checked;
 	for (const UKyroCaptureComponent* Component : {First, Second})
@@ -241,7 +270,33 @@ TEST_F(CaptureComponentShowFlagTests, ComponentsThatDisagreeShowUndeterminedAndA
 	EXPECT_NE(FindSetting(First, TEXT("Fog")), nullptr);
 }
 
-TEST_F(CaptureComponentShowFlagTests, TickingAFlagBackToItsDefaultRemovesTheOverride)
+TEST_F(CaptureComponentShowFlag, AToggleNotifiesBeforeTheChangeAfterItAndWhenFinished)
+{
+	UKyroCaptureComponent* Component = MakeComponent<UKyroCaptureComponent>();
+	Component->SetFlags(RF_Transactional);
+	Show({Component});
+	const TSharedRef<SCheckBox> Bloom = FindBox(TEXT("Bloom"));
+	const int32 FinishedBefore = View->GetFinishedChangingCount();
+	TArray<FString> PostChanges;
+	const FDelegateHandle Handle = FCoreUObjectDelegates::OnObjectPropertyChanged.AddLambda([&](UObject* Object, FPropertyChangedEvent& Event)
+		{
+			// After the write, before the view hears that editing finished.
+			PostChanges.Add(FString::Printf(TEXT("%s %s type %d, override %s, finished %d"), *Object->GetName(), *Event.GetPropertyName().ToString(), static_cast<int32>(Event.ChangeType),
+				FindSetting(Component, TEXT("Bloom")) ? TEXT("stored") : TEXT("absent"), View->GetFinishedChangingCount() - FinishedBefore)); });
+	{
+		const FScopedTransaction Transaction(FText::FromString(TEXT("Toggle Bloom")));
+		ASSERT_TRUE(FWidgetDriver::ToggleCheckBox(Bloom));
+	}
+	FCoreUObjectDelegates::OnObjectPropertyChanged.Remove(Handle);
+
+	EXPECT_EQ(PostChanges, TArray<FString>{FString::Printf(TEXT("%s ShowFlagSettings type %d, override stored, finished 0"), *Component->GetName(), static_cast<int32>(EPropertyChangeType::ValueSet))});
+	EXPECT_EQ(View->GetFinishedChangingCount(), FinishedBefore + 1);
+	// The pre-change recorded the component as it was, so an undo takes the override away again.
+	ASSERT_TRUE(FLevelDriver::Undo());
+	EXPECT_TRUE(Component->ShowFlagSettings.IsEmpty());
+}
+
+TEST_F(CaptureComponentShowFlag, TickingAFlagBackToItsDefaultRemovesTheOverride)
 {
 	UKyroCaptureComponent* Component = MakeComponent<UKyroCaptureComponent>();
 	AddSetting(Component, TEXT("MotionBlur"), true);
@@ -257,7 +312,7 @@ TEST_F(CaptureComponentShowFlagTests, TickingAFlagBackToItsDefaultRemovesTheOver
 	EXPECT_TRUE(Component->ShowFlagSettings[0].ShowFlagName.Equals(TEXT("Decals")));
 }
 
-TEST_F(CaptureComponentShowFlagTests, AnUnrelatedArchetypeMakesEveryDefaultFalse)
+TEST_F(CaptureComponentShowFlag, AnUnrelatedArchetypeMakesEveryDefaultFalse)
 {
 	Options.bKyroComposureLoaded = true;
 	Session = nullptr;

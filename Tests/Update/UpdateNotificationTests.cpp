@@ -12,6 +12,7 @@
 #include "WidgetDriver.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/SToolTip.h"
+#include "Widgets/Text/STextBlock.h"
 
 #include <gtest/gtest.h>
 
@@ -77,6 +78,34 @@ TEST_F(UpdateNotification, AnnouncementShowsAPendingNotificationWithThreeButtons
 	// Once the notification is no longer pending its buttons go.
 	Item->SetCompletionState(SNotificationItem::CS_None);
 	EXPECT_FALSE(FWidgetDriver::IsShown(FWidgetDriver::FindWidget(Item, TEXT("SButton")).ToSharedRef()));
+}
+
+TEST_F(UpdateNotification, TheButtonsTextsKeepTheirLocalisationKeys)
+{
+	FHeadlessEditorSession Session;
+	Announce(TEXT("1.4"), TEXT("https://www.example.com/download/1.4"));
+	ASSERT_EQ(GetNotifications().Num(), 1);
+
+	TArray<FString> Keys;
+	for (const TSharedRef<SWidget>& Button : FWidgetDriver::FindAllWidgets(GetNotifications()[0], TEXT("SButton")))
+	{
+		const TSharedPtr<STextBlock> Label = FWidgetDriver::Find<STextBlock>(Button, TEXT("STextBlock"));
+		const TSharedPtr<SToolTip> ToolTip = StaticCastSharedPtr<SToolTip>(Button->GetToolTip());
+		ASSERT_TRUE(Label.IsValid());
+		ASSERT_TRUE(ToolTip.IsValid());
+		for (const FText& Text : {Label->GetText(), ToolTip->GetTextTooltip()})
+		{
+			Keys.Add(FTextInspector::GetNamespace(Text).Get(FString()) + TEXT(":") + FTextInspector::GetKey(Text).Get(FString()));
+		}
+	}
+	EXPECT_EQ(Keys, (TArray<FString>{
+						TEXT("FCastellanEditorModule:NewUpdatePopupDownloadNowLater"),
+						TEXT("FCastellanEditorModule:NewUpdatePopupDownloadNowTT"),
+						TEXT("FCastellanEditorModule:NewUpdatePopupRemindMeLater"),
+						TEXT("FCastellanEditorModule:NewUpdatePopupRemindMeLaterTT"),
+						TEXT("FCastellanEditorModule:NewUpdatePopupSkipVersion"),
+						TEXT("FCastellanEditorModule:NewUpdatePopupSkipVersionTT"),
+					}));
 }
 
 TEST_F(UpdateNotification, DownloadNowOpensTheAddressAndCloses)

@@ -46,18 +46,25 @@ TEST(WizardFlow, RestartResetsTheInputsButKeepsTheWarnings)
 	FWizardHarness Harness;
 	Harness.PickCapture(TEXT("Kyro 360 Camera"));
 	Harness.Tick(TEXT("NDI"));
+	Harness.Tick(TEXT("Media Output (RTMP, SRT, MP4 etc.)"));
+	Harness.Tick(TEXT("Virtual Webcam"));
 	Harness.Create(TEXT("Main"), TEXT("Spout"));
 	// Enter on the done page validates the inputs still held: "Main" is now a Spout sender.
 	EXPECT_TRUE(Harness.PressKeyOnWizard(EKeys::Enter).IsEventHandled());
 	ASSERT_TRUE(Harness.IsDonePageShown());
 	const FString Warning = Harness.GetNameWarning()->GetText().ToString();
 	ASSERT_FALSE(Warning.IsEmpty());
+	const TCHAR* const Captions[] = {TEXT("Spout"), TEXT("NDI"), TEXT("Media Output (RTMP, SRT, MP4 etc.)"), TEXT("Virtual Webcam")};
+	for (const TCHAR* Caption : Captions)
+	{
+		ASSERT_TRUE(Harness.GetOutput(Caption)->IsChecked()) << Caption;
+	}
 
 	EXPECT_TRUE(Harness.ClickRestart());
 
 	EXPECT_TRUE(Harness.IsCreatorPageShown());
 	EXPECT_TRUE(Harness.GetSelectedCapture().Equals(TEXT("Kyro Cinecam")));
-	for (const TCHAR* Caption : {TEXT("Spout"), TEXT("NDI"), TEXT("Media Output (RTMP, SRT, MP4 etc.)"), TEXT("Virtual Webcam")})
+	for (const TCHAR* Caption : Captions)
 	{
 		EXPECT_FALSE(Harness.GetOutput(Caption)->IsChecked()) << Caption;
 	}

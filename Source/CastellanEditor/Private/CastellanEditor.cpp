@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "CastellanEditor.h"
 
 #include "AuthDelegates.h"

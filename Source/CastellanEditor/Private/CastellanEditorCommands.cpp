@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "CastellanEditorCommands.h"
 
 #include "CastellanEditorStyle.h"

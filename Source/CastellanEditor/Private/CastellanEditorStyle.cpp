@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "CastellanEditorStyle.h"
 
 #include "Brushes/SlateImageBrush.h"

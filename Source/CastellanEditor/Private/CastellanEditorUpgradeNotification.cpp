@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "CastellanEditor.h"
 #include "CastellanEditorStyle.h"
 #include "Framework/Notifications/NotificationManager.h"

@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #pragma once
 
 #include "CoreMinimal.h"

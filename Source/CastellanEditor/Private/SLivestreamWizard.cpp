@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "SLivestreamWizard.h"
 
 #include "AssetRegistry/AssetRegistryModule.h"
@@ -93,35 +95,93 @@ namespace LivestreamWizard
 		return BasePackageName.Len() + MaxNumberingDigits < NAME_SIZE;
 	}
 
+	/** The level viewport client whose viewport is the active one, or null. */
+	FLevelEditorViewportClient* FindActiveLevelViewportClient()
+	{
+		for (FLevelEditorViewportClient* Client : GEditor->GetLevelViewportClients())
+		{
+			if (Client->Viewport == GEditor->GetActiveViewport())
+			{
+				return Client;
+			}
+		}
+		return nullptr;
+	}
+
 	/** Outputs go to the world of the first level viewport client (the camera goes to the active one). */
 	UWorld* GetOutputWorld()
 	{
 		return GEditor->GetLevelViewportClients()[0]->GetWorld();
 	}
 
+	/** A new actor at the origin, noted in OutSpawnedActors; null if the world refuses it. */
+	template <typename ActorType>
+	ActorType* SpawnActor(UWorld* World, TArray<AActor*>& OutSpawnedActors)
+	{
+		ActorType* Actor = Cast<ActorType>(World->SpawnActor(ActorType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+		if (Actor)
+		{
+			OutSpawnedActors.Add(Actor);
+		}
+		return Actor;
+	}
+
 	/** The first sender manager of the level after Modify, or a new one when the level has none. */
 	template <typename ManagerType>
-	ManagerType* FindOrCreateSenderManager()
+	ManagerType* FindOrSpawnSenderManager(TArray<AActor*>& OutSpawnedActors)
 	{
 		UWorld* World = GetOutputWorld();
 		TArray<AActor*> Found;
 		UGameplayStatics::GetAllActorsOfClass(World, ManagerType::StaticClass(), Found);
-		if (Found.Num() == 0)
+		if (Found.Num() > 0)
 		{
-			ManagerType* Manager = Cast<ManagerType>(World->SpawnActor(ManagerType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+			Found[0]->Modify(true);
+			return Cast<ManagerType>(Found[0]);
+		}
+		ManagerType* Manager = SpawnActor<ManagerType>(World, OutSpawnedActors);
+		if (Manager)
+		{
 			ULevel::LevelDirtiedEvent.Broadcast();
 			GEditor->RedrawAllViewports(true);
-			return Manager;
 		}
-		Found[0]->Modify(true);
-		return Cast<ManagerType>(Found[0]);
+		return Manager;
+	}
+
+	/** A new render target asset in the wizard's folder, named uniquely after BasePackageName; null if the asset tools refuse. */
+	UTextureRenderTarget2D* CreateRenderTarget(const FString& BasePackageName, FString& OutAssetName)
+	{
+		IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>(TEXT("AssetTools")).Get();
+		FString PackageName;
+		AssetTools.CreateUniqueAssetName(BasePackageName, FString(), PackageName, OutAssetName);
+		UTextureRenderTarget2D* RenderTarget = Cast<UTextureRenderTarget2D>(AssetTools.CreateAsset(OutAssetName, AssetFolder, UTextureRenderTarget2D::StaticClass(), nullptr));
+		if (RenderTarget)
+		{
+			RenderTarget->MarkPackageDirty();
+			FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().AssetCreated(RenderTarget);
+		}
+		return RenderTarget;
+	}
+
+	/** Moves the actor to the viewport's camera and makes it the editor's only selection. */
+	void PlaceAndSelect(AActor* Actor, const FLevelEditorViewportClient& Client)
+	{
+		Actor->SetActorLocation(Client.GetViewLocation());
+		Actor->SetActorRotation(Client.GetViewRotation());
+
+		GUnrealEd->SelectNone(true, true, true);
+		GEditor->GetSelectedActors()->DeselectAll();
+		GEditor->GetSelectedObjects()->DeselectAll();
+		GEditor->SelectActor(Actor, true, false, false, false);
+		TArray<AActor*> SelectedActors;
+		SelectedActors.Add(Actor);
+		GUnrealEd->UpdateFloatingPropertyWindowsFromActorList(SelectedActors, false);
+		GEditor->RedrawAllViewports(true);
 	}
 
 	/** A sender entry of the runtime's Spout or NDI manager, enabled, named after the render target. */
 	template <typename EntryType>
 	EntryType MakeSenderEntry(UTextureRenderTarget2D* RenderTarget, const FString& Name)
 	{
-		// Runtime members: FKyroSpoutSenderInterface / FKyroNDISenderInterface::bEnabled, SenderName, StandaloneSenderName, RenderTarget.
 		EntryType Entry;
 		Entry.bEnabled = true;
 		Entry.SenderName = Name;
@@ -133,24 +193,28 @@ namespace LivestreamWizard
 	template <typename ManagerType, typename EntryType>
 	void AddSenderEntry(ManagerType* Manager, const EntryType& Entry)
 	{
-		// Runtime member: AKyroSpoutSenderManager / AKyroNDISenderManager::Senders.
 		Manager->Senders.Add(Entry);
 		Manager->GetWorld()->MarkPackageDirty();
 		ULevel::LevelDirtiedEvent.Broadcast();
 	}
 
-	/** Spawns a media output or virtual webcam actor at the origin, rendering RenderTarget. */
+	/** Shows the render target on a media output or virtual webcam actor. */
 	template <typename OutputType>
-	void CreateOutputActor(UTextureRenderTarget2D* RenderTarget)
+	void ConnectOutputActor(OutputType* Output, UTextureRenderTarget2D* RenderTarget)
 	{
-		OutputType* Output = Cast<OutputType>(GetOutputWorld()->SpawnActor(OutputType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
-		// Runtime member: AKyroMediaOutput / AKyroVirtualWebcamOutput::RenderTarget.
 		Output->RenderTarget = RenderTarget;
 		GEditor->RedrawAllViewports(true);
 		Output->GetWorld()->MarkPackageDirty();
 		ULevel::LevelDirtiedEvent.Broadcast();
 	}
 }
+
+const SLivestreamWizard::FOutputOption SLivestreamWizard::OutputOptions[] = {
+	{&SLivestreamWizard::SpoutCheckBox, TEXT("Spout")},
+	{&SLivestreamWizard::NDICheckBox, TEXT("NDI")},
+	{&SLivestreamWizard::MediaOutputCheckBox, TEXT("Media Output (RTMP, SRT, MP4 etc.)")},
+	{&SLivestreamWizard::VirtualWebcamCheckBox, TEXT("Virtual Webcam")},
+};
 
 SLivestreamWizard::SLivestreamWizard()
 	: bIsCreatorPage(true)
@@ -162,8 +226,6 @@ SLivestreamWizard::SLivestreamWizard()
 
 void SLivestreamWizard::Construct(const FArguments& InArgs)
 {
-	using namespace LivestreamWizard;
-
 	KyroTelemetry::WizardEditorOpened();
 
 	CameraTypeOptions.Add(MakeShared<FString>(CineCamOption));
@@ -183,169 +245,210 @@ void SLivestreamWizard::Construct(const FArguments& InArgs)
 				+ SVerticalBox::Slot()
 				.AutoHeight()
 				[
-					SNew(SVerticalBox)
-					+ SVerticalBox::Slot()
-					.AutoHeight()
-					.HAlign(HAlign_Left)
-					[
-						SNew(SImage)
-						.Image(FCastellanEditorStyle::Get().GetBrush(TEXT("KyroCastellan.WizardIcon_128x")))
-					]
-					+ SVerticalBox::Slot()
-					.AutoHeight()
-					.Padding(SectionPadding)
-					[
-						SNew(STextBlock)
-						.Text(LOCTEXT("Title", "Livestream Wizard"))
-						.Font(FCoreStyle::GetDefaultFontStyle("Regular", 19))
-					]
-					+ SVerticalBox::Slot()
-					.AutoHeight()
-					[
-						SNew(STextBlock)
-						.Text(LOCTEXT("Description", "Set up a live-stream from an Kyro Cinecam, Kyro 360 Camera or Kyro Viewport Capture"))
-						.Font(FCoreStyle::GetDefaultFontStyle("Regular", 10))
-					]
+					MakeHeader()
 				]
 				+ SVerticalBox::Slot()
 				.AutoHeight()
 				[
+					// The two pages lie on top of each other; one is shown at a time.
 					SNew(SOverlay)
 					+ SOverlay::Slot()
 					[
-						SNew(SVerticalBox)
-						.Visibility(this, &SLivestreamWizard::GetCreatorPageVisibility)
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						[
-							SNew(SVerticalBox)
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								LivestreamWizard::MakeStepLabel(LOCTEXT("CameraType_Label", "1. Select Capture Type:"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								SAssignNew(CameraTypeComboBox, SComboBox<TSharedPtr<FString>>)
-								.OptionsSource(&CameraTypeOptions)
-								.InitiallySelectedItem(CameraTypeOptions[0])
-								.OnGenerateWidget(this, &SLivestreamWizard::MakeCameraTypeWidget)
-								[
-									SNew(STextBlock)
-									.Text(this, &SLivestreamWizard::GetCameraTypeComboBoxSelectedText)
-								]
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								// Step 1 has no warning of its own; the line keeps the steps evenly spaced.
-								SNew(STextBlock)
-								.Font(FCoreStyle::GetDefaultFontStyle("Italic", 8))
-							]
-						]
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						[
-							SNew(SVerticalBox)
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								LivestreamWizard::MakeStepLabel(LOCTEXT("OutputType_Label", "2. Select Output Type:"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								LivestreamWizard::MakeOutputCheckBox(SpoutCheckBox, TEXT("Spout"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								LivestreamWizard::MakeOutputCheckBox(NDICheckBox, TEXT("NDI"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								LivestreamWizard::MakeOutputCheckBox(MediaOutputCheckBox, TEXT("Media Output (RTMP, SRT, MP4 etc.)"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								LivestreamWizard::MakeOutputCheckBox(VirtualWebcamCheckBox, TEXT("Virtual Webcam"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								LivestreamWizard::MakeWarning(OutputTypeWarning, LOCTEXT("OutputType_Warning", ""))
-							]
-						]
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						[
-							SNew(SVerticalBox)
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								LivestreamWizard::MakeStepLabel(LOCTEXT("StreamName_Label", "3. Set Livestream Name:"))
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							.Padding(ItemPadding)
-							[
-								SAssignNew(StreamNameTextBox, SEditableTextBox)
-							]
-							+ SVerticalBox::Slot()
-							.AutoHeight()
-							[
-								LivestreamWizard::MakeWarning(StreamNameWarning, LOCTEXT("StreamName_Warning", ""))
-							]
-						]
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						.HAlign(HAlign_Left)
-						[
-							SNew(SButton)
-							.Text(LOCTEXT("Button_Label", "Create"))
-							.IsEnabled(this, &SLivestreamWizard::GetCreateButtonEnabled)
-							.OnClicked(this, &SLivestreamWizard::OnCreateButtonClicked)
-						]
+						MakeCreatorPage()
 					]
 					+ SOverlay::Slot()
 					[
-						SNew(SVerticalBox)
-						.Visibility(this, &SLivestreamWizard::GetDonePageVisibility)
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						[
-							SAssignNew(DoneText, STextBlock)
-							.Font(FCoreStyle::GetDefaultFontStyle("Regular", 12))
-						]
-						+ SVerticalBox::Slot()
-						.AutoHeight()
-						.Padding(SectionPadding)
-						.HAlign(HAlign_Left)
-						[
-							SNew(SButton)
-							.OnClicked(this, &SLivestreamWizard::OnRestartButtonClicked)
-							[
-								SAssignNew(DoneButtonText, STextBlock)
-							]
-						]
+						MakeDonePage()
 					]
 				]
 			]
 		]
 	];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeHeader() const
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	return SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.HAlign(HAlign_Left)
+		[
+			SNew(SImage)
+			.Image(FCastellanEditorStyle::Get().GetBrush(TEXT("KyroCastellan.WizardIcon_128x")))
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		[
+			SNew(STextBlock)
+			.Text(LOCTEXT("Title", "Livestream Wizard"))
+			.Font(FCoreStyle::GetDefaultFontStyle("Regular", 19))
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			SNew(STextBlock)
+			.Text(LOCTEXT("Description", "Set up a live-stream from an Kyro Cinecam, Kyro 360 Camera or Kyro Viewport Capture"))
+			.Font(FCoreStyle::GetDefaultFontStyle("Regular", 10))
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeCreatorPage()
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	return SNew(SVerticalBox)
+		.Visibility(this, &SLivestreamWizard::GetCreatorPageVisibility)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		[
+			MakeCaptureTypeStep()
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		[
+			MakeOutputStep()
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		[
+			MakeNameStep()
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		.HAlign(HAlign_Left)
+		[
+			SNew(SButton)
+			.Text(LOCTEXT("Button_Label", "Create"))
+			.IsEnabled(this, &SLivestreamWizard::GetCreateButtonEnabled)
+			.OnClicked(this, &SLivestreamWizard::OnCreateButtonClicked)
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeCaptureTypeStep()
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	return SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			MakeStepLabel(LOCTEXT("CameraType_Label", "1. Select Capture Type:"))
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(ItemPadding)
+		[
+			SAssignNew(CameraTypeComboBox, SComboBox<TSharedPtr<FString>>)
+			.OptionsSource(&CameraTypeOptions)
+			.InitiallySelectedItem(CameraTypeOptions[0])
+			.OnGenerateWidget(this, &SLivestreamWizard::MakeCameraTypeWidget)
+			[
+				SNew(STextBlock)
+				.Text(this, &SLivestreamWizard::GetCameraTypeComboBoxSelectedText)
+			]
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			// Step 1 has no warning of its own; the line keeps the steps evenly spaced.
+			SNew(STextBlock)
+			.Font(FCoreStyle::GetDefaultFontStyle("Italic", 8))
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeOutputStep()
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	const TSharedRef<SVerticalBox> Step = SNew(SVerticalBox);
+	Step->AddSlot()
+	.AutoHeight()
+	[
+		MakeStepLabel(LOCTEXT("OutputType_Label", "2. Select Output Type:"))
+	];
+	for (const FOutputOption& Output : OutputOptions)
+	{
+		Step->AddSlot()
+		.AutoHeight()
+		.Padding(ItemPadding)
+		[
+			MakeOutputCheckBox(this->*Output.CheckBox, Output.Caption)
+		];
+	}
+	Step->AddSlot()
+	.AutoHeight()
+	[
+		MakeWarning(OutputTypeWarning, LOCTEXT("OutputType_Warning", ""))
+	];
+	// clang-format on
+	return Step;
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeNameStep()
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	return SNew(SVerticalBox)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			MakeStepLabel(LOCTEXT("StreamName_Label", "3. Set Livestream Name:"))
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(ItemPadding)
+		[
+			SAssignNew(StreamNameTextBox, SEditableTextBox)
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		[
+			MakeWarning(StreamNameWarning, LOCTEXT("StreamName_Warning", ""))
+		];
+	// clang-format on
+}
+
+TSharedRef<SWidget> SLivestreamWizard::MakeDonePage()
+{
+	using namespace LivestreamWizard;
+
+	// clang-format off
+	return SNew(SVerticalBox)
+		.Visibility(this, &SLivestreamWizard::GetDonePageVisibility)
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		[
+			SAssignNew(DoneText, STextBlock)
+			.Font(FCoreStyle::GetDefaultFontStyle("Regular", 12))
+		]
+		+ SVerticalBox::Slot()
+		.AutoHeight()
+		.Padding(SectionPadding)
+		.HAlign(HAlign_Left)
+		[
+			SNew(SButton)
+			.OnClicked(this, &SLivestreamWizard::OnRestartButtonClicked)
+			[
+				SAssignNew(DoneButtonText, STextBlock)
+			]
+		];
 	// clang-format on
 }
 
@@ -380,13 +483,16 @@ bool SLivestreamWizard::GetCreateButtonEnabled() const
 
 bool SLivestreamWizard::CanCreateSetup() const
 {
-	bool bOutputsValid = true;
+	bool bOutputsValid = false;
+	for (const FOutputOption& Output : OutputOptions)
+	{
+		bOutputsValid |= (this->*Output.CheckBox)->IsChecked();
+	}
 	bool bNameValid = true;
 
-	if (!SpoutCheckBox->IsChecked() && !NDICheckBox->IsChecked() && !MediaOutputCheckBox->IsChecked() && !VirtualWebcamCheckBox->IsChecked())
+	if (!bOutputsValid)
 	{
 		OutputTypeWarning->SetText(LOCTEXT("OutputSelection_Warning", "! Select at least one output type."));
-		bOutputsValid = false;
 	}
 	else
 	{
@@ -411,7 +517,6 @@ bool SLivestreamWizard::CanCreateSetup() const
 			for (AActor* Actor : Found)
 			{
 				const AKyroSpoutSenderManager* Manager = Cast<AKyroSpoutSenderManager>(Actor);
-				// Runtime members: AKyroSpoutSenderManager::Senders, FKyroSpoutSenderInterface::SenderName and StandaloneSenderName.
 				for (const FKyroSpoutSenderInterface& Sender : Manager->Senders)
 				{
 					if (Sender.SenderName == Name || Sender.StandaloneSenderName == Name)
@@ -433,154 +538,147 @@ bool SLivestreamWizard::CanCreateSetup() const
 
 bool SLivestreamWizard::CreateSetup() const
 {
-	const FScopedTransaction Transaction(FText::FromString(TEXT("Create Setup")));
+	FScopedTransaction Transaction(FText::FromString(TEXT("Create Setup")));
+	TArray<AActor*> SpawnedActors;
+	if (BuildSetup(SpawnedActors))
+	{
+		return true;
+	}
+	// A failed create leaves nothing behind: its actors go, and no undo step remains.
+	for (AActor* Actor : SpawnedActors)
+	{
+		Actor->Destroy();
+	}
+	Transaction.Cancel();
+	return false;
+}
 
-	FString AssetName;
-	AActor* Actor = CreateCaptureActor(AssetName);
-	if (!Actor)
+bool SLivestreamWizard::BuildSetup(TArray<AActor*>& OutSpawnedActors) const
+{
+	using namespace LivestreamWizard;
+
+	FLevelEditorViewportClient* Client = FindActiveLevelViewportClient();
+	const FString BasePackageName = FString(AssetFolder) + StreamNameTextBox->GetText().ToString();
+	if (!Client || !CanNameUniquely(BasePackageName))
 	{
 		return false;
 	}
-	UTextureRenderTarget2D* RenderTarget = GetRenderTarget(Actor);
+
+	// Every spawn, which the world may refuse, comes before the render target asset, which no undo removes.
+	AActor* CaptureActor = SpawnCaptureActor(Client->GetWorld(), OutSpawnedActors);
+	FOutputActors Outputs;
+	if (!CaptureActor || !SpawnOutputActors(Outputs, OutSpawnedActors))
+	{
+		return false;
+	}
+	FString AssetName;
+	UTextureRenderTarget2D* RenderTarget = CreateRenderTarget(BasePackageName, AssetName);
+	if (!RenderTarget)
+	{
+		return false;
+	}
+
+	SetCaptureRenderTarget(CaptureActor, RenderTarget);
+	PlaceAndSelect(CaptureActor, *Client);
+	// The senders take the asset's final name, which the asset tools may have made unique.
+	ConnectOutputs(Outputs, RenderTarget, AssetName);
+	return true;
+}
+
+AActor* SLivestreamWizard::SpawnCaptureActor(UWorld* World, TArray<AActor*>& OutSpawnedActors) const
+{
+	using namespace LivestreamWizard;
+
+	if (IsCaptureTypeSelected(CineCamOption))
+	{
+		return SpawnActor<AKyroCineCamCapture>(World, OutSpawnedActors);
+	}
+	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
+	{
+		return SpawnActor<AKyro360CamCapture>(World, OutSpawnedActors);
+	}
+	return SpawnActor<AKyroViewportCapture>(World, OutSpawnedActors);
+}
+
+void SLivestreamWizard::SetCaptureRenderTarget(AActor* CaptureActor, UTextureRenderTarget2D* RenderTarget) const
+{
+	// The actor was spawned for this selection, so the cast holds.
+	if (IsCaptureTypeSelected(CineCamOption))
+	{
+		CastChecked<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget = RenderTarget;
+	}
+	else if (IsCaptureTypeSelected(ThreeSixtyCamOption))
+	{
+		CastChecked<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget = RenderTarget;
+	}
+	else
+	{
+		CastChecked<AKyroViewportCapture>(CaptureActor)->RenderTarget = RenderTarget;
+	}
+}
+
+bool SLivestreamWizard::SpawnOutputActors(FOutputActors& OutOutputs, TArray<AActor*>& OutSpawnedActors) const
+{
+	using namespace LivestreamWizard;
 
 	if (SpoutCheckBox->IsChecked())
 	{
-		CreateSpoutSender(RenderTarget, AssetName);
+		OutOutputs.SpoutSenderManager = FindOrSpawnSenderManager<AKyroSpoutSenderManager>(OutSpawnedActors);
+		if (!OutOutputs.SpoutSenderManager)
+		{
+			return false;
+		}
 	}
 	if (NDICheckBox->IsChecked())
 	{
-		CreateNDISender(RenderTarget, AssetName);
+		OutOutputs.NDISenderManager = FindOrSpawnSenderManager<AKyroNDISenderManager>(OutSpawnedActors);
+		if (!OutOutputs.NDISenderManager)
+		{
+			return false;
+		}
 	}
 	if (MediaOutputCheckBox->IsChecked())
 	{
-		CreateMediaOutput(RenderTarget);
+		OutOutputs.MediaOutput = SpawnActor<AKyroMediaOutput>(GetOutputWorld(), OutSpawnedActors);
+		if (!OutOutputs.MediaOutput)
+		{
+			return false;
+		}
 	}
 	if (VirtualWebcamCheckBox->IsChecked())
 	{
-		CreateVirtualCam(RenderTarget);
+		OutOutputs.VirtualWebcamOutput = SpawnActor<AKyroVirtualWebcamOutput>(GetOutputWorld(), OutSpawnedActors);
+		if (!OutOutputs.VirtualWebcamOutput)
+		{
+			return false;
+		}
 	}
 	return true;
 }
 
-AActor* SLivestreamWizard::CreateCaptureActor(FString& OutAssetName) const
+void SLivestreamWizard::ConnectOutputs(const FOutputActors& Outputs, UTextureRenderTarget2D* RenderTarget, const FString& AssetName)
 {
-	FLevelEditorViewportClient* Client = nullptr;
-	for (FLevelEditorViewportClient* Candidate : GEditor->GetLevelViewportClients())
+	using namespace LivestreamWizard;
+
+	if (Outputs.SpoutSenderManager)
 	{
-		if (Candidate->Viewport == GEditor->GetActiveViewport())
-		{
-			Client = Candidate;
-			break;
-		}
+		AddSenderEntry(Outputs.SpoutSenderManager, MakeSenderEntry<FKyroSpoutSenderInterface>(RenderTarget, AssetName));
 	}
-	if (!Client)
+	if (Outputs.NDISenderManager)
 	{
-		return nullptr;
+		FKyroNDISenderInterface Entry = MakeSenderEntry<FKyroNDISenderInterface>(RenderTarget, AssetName);
+		// The NDI entry's second flag, next to the enabled one.
+		Entry.bActive = true;
+		AddSenderEntry(Outputs.NDISenderManager, Entry);
 	}
-
-	const FString BasePackageName = FString(LivestreamWizard::AssetFolder) + StreamNameTextBox->GetText().ToString();
-	if (!LivestreamWizard::CanNameUniquely(BasePackageName))
+	if (Outputs.MediaOutput)
 	{
-		return nullptr;
+		ConnectOutputActor(Outputs.MediaOutput, RenderTarget);
 	}
-
-	IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>(TEXT("AssetTools")).Get();
-	FString PackageName;
-	AssetTools.CreateUniqueAssetName(BasePackageName, FString(), PackageName, OutAssetName);
-	UTextureRenderTarget2D* RenderTarget = Cast<UTextureRenderTarget2D>(AssetTools.CreateAsset(OutAssetName, LivestreamWizard::AssetFolder, UTextureRenderTarget2D::StaticClass(), nullptr));
-	if (!RenderTarget)
+	if (Outputs.VirtualWebcamOutput)
 	{
-		return nullptr;
+		ConnectOutputActor(Outputs.VirtualWebcamOutput, RenderTarget);
 	}
-	RenderTarget->MarkPackageDirty();
-	FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().AssetCreated(RenderTarget);
-
-	UWorld* World = Client->GetWorld();
-	AActor* Actor = nullptr;
-	if (IsCaptureTypeSelected(CineCamOption))
-	{
-		AKyroCineCamCapture* CineCam = Cast<AKyroCineCamCapture>(World->SpawnActor(AKyroCineCamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
-		// Runtime member: AKyroCineCamCapture::CaptureComponent (a scene capture 2D).
-		CineCam->CaptureComponent->TextureTarget = RenderTarget;
-		Actor = CineCam;
-	}
-	else if (IsCaptureTypeSelected(ThreeSixtyCamOption))
-	{
-		AKyro360CamCapture* ThreeSixtyCam = Cast<AKyro360CamCapture>(World->SpawnActor(AKyro360CamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
-		// Runtime member: AKyro360CamCapture::CaptureComponent (a UKyro360CaptureComponent).
-		ThreeSixtyCam->CaptureComponent->TextureTarget = RenderTarget;
-		Actor = ThreeSixtyCam;
-	}
-	else
-	{
-		AKyroViewportCapture* ViewportCapture = Cast<AKyroViewportCapture>(World->SpawnActor(AKyroViewportCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
-		// Runtime member: AKyroViewportCapture::RenderTarget.
-		ViewportCapture->RenderTarget = RenderTarget;
-		Actor = ViewportCapture;
-	}
-
-	Actor->SetActorLocation(Client->GetViewLocation());
-	Actor->SetActorRotation(Client->GetViewRotation());
-
-	GUnrealEd->SelectNone(true, true, true);
-	GEditor->GetSelectedActors()->DeselectAll();
-	GEditor->GetSelectedObjects()->DeselectAll();
-	GEditor->SelectActor(Actor, true, false, false, false);
-	TArray<AActor*> SelectedActors;
-	SelectedActors.Add(Actor);
-	GUnrealEd->UpdateFloatingPropertyWindowsFromActorList(SelectedActors, false);
-	GEditor->RedrawAllViewports(true);
-	return Actor;
-}
-
-UTextureRenderTarget2D* SLivestreamWizard::GetRenderTarget(AActor* CaptureActor) const
-{
-	// Called with the actor CreateCaptureActor has just made for this selection, so the casts hold.
-	// Runtime members as in CreateCaptureActor.
-	if (IsCaptureTypeSelected(CineCamOption))
-	{
-		return Cast<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
-	}
-	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
-	{
-		return Cast<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget.Get();
-	}
-	return Cast<AKyroViewportCapture>(CaptureActor)->RenderTarget.Get();
-}
-
-void SLivestreamWizard::CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const
-{
-	AKyroSpoutSenderManager* Manager = FindOrCreateSpoutSenderManager();
-	LivestreamWizard::AddSenderEntry(Manager, LivestreamWizard::MakeSenderEntry<FKyroSpoutSenderInterface>(RenderTarget, Name));
-}
-
-void SLivestreamWizard::CreateNDISender(UTextureRenderTarget2D* RenderTarget, FString Name) const
-{
-	AKyroNDISenderManager* Manager = FindOrCreateNDISenderManager();
-	FKyroNDISenderInterface Entry = LivestreamWizard::MakeSenderEntry<FKyroNDISenderInterface>(RenderTarget, Name);
-	// Runtime member: FKyroNDISenderInterface::bActive, the flag next to bEnabled.
-	Entry.bActive = true;
-	LivestreamWizard::AddSenderEntry(Manager, Entry);
-}
-
-void SLivestreamWizard::CreateMediaOutput(UTextureRenderTarget2D* RenderTarget) const
-{
-	LivestreamWizard::CreateOutputActor<AKyroMediaOutput>(RenderTarget);
-}
-
-void SLivestreamWizard::CreateVirtualCam(UTextureRenderTarget2D* RenderTarget) const
-{
-	LivestreamWizard::CreateOutputActor<AKyroVirtualWebcamOutput>(RenderTarget);
-}
-
-AKyroSpoutSenderManager* SLivestreamWizard::FindOrCreateSpoutSenderManager() const
-{
-	return LivestreamWizard::FindOrCreateSenderManager<AKyroSpoutSenderManager>();
-}
-
-AKyroNDISenderManager* SLivestreamWizard::FindOrCreateNDISenderManager() const
-{
-	return LivestreamWizard::FindOrCreateSenderManager<AKyroNDISenderManager>();
 }
 
 bool SLivestreamWizard::IsCaptureTypeSelected(const FString& Option) const
@@ -615,10 +713,10 @@ FReply SLivestreamWizard::OnCreateButtonClicked()
 FReply SLivestreamWizard::OnRestartButtonClicked()
 {
 	CameraTypeComboBox->SetSelectedItem(CameraTypeOptions[0]);
-	SpoutCheckBox->SetIsChecked(ECheckBoxState::Unchecked);
-	NDICheckBox->SetIsChecked(ECheckBoxState::Unchecked);
-	MediaOutputCheckBox->SetIsChecked(ECheckBoxState::Unchecked);
-	VirtualWebcamCheckBox->SetIsChecked(ECheckBoxState::Unchecked);
+	for (const FOutputOption& Output : OutputOptions)
+	{
+		(this->*Output.CheckBox)->SetIsChecked(ECheckBoxState::Unchecked);
+	}
 	StreamNameTextBox->SetText(FText::GetEmpty());
 	bIsCreatorPage = true;
 	return FReply::Handled();

@@ -3,10 +3,31 @@
 #include "CoreGlobals.h"
 #include "Engine/Level.h"
 #include "GameFramework/Actor.h"
+#include "HeadlessWorld.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogSpawn, Warning, All);
+
+namespace
+{
+	/** The class whose spawns every world refuses, if any. */
+	struct FSpawnRefusal
+	{
+		UClass* Class = nullptr;
+	};
+
+	FSpawnRefusal& GetSpawnRefusal()
+	{
+		static FSpawnRefusal State;
+		return State;
+	}
+}
+
+void UE::Headless::SetRefusedSpawnClass(UClass* Class)
+{
+	GetSpawnRefusal().Class = Class;
+}
 
 FSimpleMulticastDelegate ULevel::LevelDirtiedEvent;
 
@@ -96,6 +117,11 @@ AActor* UWorld::SpawnActor(UClass* Class, FVector const* Location, FRotator cons
 	if (Class->HasAnyClassFlags(CLASS_Abstract))
 	{
 		UE_LOG(LogSpawn, Warning, TEXT("SpawnActor failed because class %s is abstract"), *Class->GetName());
+		return nullptr;
+	}
+	if (GetSpawnRefusal().Class && Class->IsChildOf(GetSpawnRefusal().Class))
+	{
+		UE_LOG(LogSpawn, Warning, TEXT("SpawnActor failed because the world refused an actor of class %s"), *Class->GetName());
 		return nullptr;
 	}
 	ULevel* LevelToSpawnIn = SpawnParameters.OverrideLevel ? SpawnParameters.OverrideLevel : PersistentLevel.Get();

@@ -183,11 +183,4 @@ void FDetailPropertyNode::NotifyPostChange(EPropertyChangeType::Type ChangeType)
 	{
 		Ancestor->OnChildValueChanged.Broadcast();
 	}
-
-	if (FHeadlessDetailsView* OwningView = GetView())
-	{
-		FPropertyChangedEvent Event(Property, ChangeType, &TopLevelObjects);
-		Event.SetActiveMemberProperty(GetMemberProperty());
-		OwningView->NotifyFinishedChangingProperties(Event);
-	}
 }

@@ -236,10 +236,15 @@ FPropertyAccess::Result FPropertyHandleImpl::WriteValues(TFunctionRef<bool(void*
 		Object->MarkPackageDirty();
 	}
 
+	const bool bFinished = (Flags & EPropertyValueSetFlags::InteractiveChange) == 0;
 	if (bNotifiedPreChange)
 	{
-		const bool bFinished = (Flags & EPropertyValueSetFlags::InteractiveChange) == 0;
 		Pinned->NotifyPostChange(bFinished ? EPropertyChangeType::ValueSet : EPropertyChangeType::Interactive);
+	}
+	// As the engine: a set that is not interactive ends with the view's finished-changing notification, changed or not.
+	if (bFinished)
+	{
+		NotifyFinishedChangingProperties();
 	}
 	return Result;
 }

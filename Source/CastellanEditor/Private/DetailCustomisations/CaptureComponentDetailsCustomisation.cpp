@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
 
 #include "Components/SceneCaptureComponent.h"
@@ -19,47 +21,47 @@
 
 namespace
 {
-	/** The offered flags as indices of the 5.1 engine build, in the order they are offered. */
-	const uint32 OfferedShowFlags[] = {
-		131, // Atmosphere
-		132, // Cloud
-		125, // BSP
-		15, // Decals
-		121, // Fog
-		119, // Landscape
-		77, // Particles
-		79, // SkeletalMeshes
-		118, // StaticMeshes
-		81, // Translucency
-		96, // Lighting
-		97, // DeferredLighting
-		69, // NaniteMeshes
-		70, // InstancedStaticMeshes
-		71, // InstancedFoliage
-		75, // InstancedGrass
-		148, // Paper2DSprites
-		135, // TextRender
-		14, // AmbientOcclusion
-		76, // DynamicShadows
-		143, // SkyLighting
-		157, // VolumetricFog
-		6, // AmbientCubemap
-		155, // DistanceFieldAO
-		68, // LightFunctions
-		129, // LightShafts
-		0, // PostProcessing
-		49, // ReflectionEnvironment
-		54, // ScreenSpaceReflections
-		67, // TexturedLightProfiles
-		4, // AntiAliasing
-		5, // TemporalAA
-		34, // MotionBlur
-		1, // Bloom
-		2, // LocalExposure
-		7, // EyeAdaptation
-		123, // Game
-		44, // ToneCurve
-		178, // PathTracing
+	/** The offered flags in offering order, by name: each engine version numbers them its own way. */
+	const FEngineShowFlags::EShowFlag OfferedShowFlags[] = {
+		FEngineShowFlags::SF_Atmosphere,
+		FEngineShowFlags::SF_Cloud,
+		FEngineShowFlags::SF_BSP,
+		FEngineShowFlags::SF_Decals,
+		FEngineShowFlags::SF_Fog,
+		FEngineShowFlags::SF_Landscape,
+		FEngineShowFlags::SF_Particles,
+		FEngineShowFlags::SF_SkeletalMeshes,
+		FEngineShowFlags::SF_StaticMeshes,
+		FEngineShowFlags::SF_Translucency,
+		FEngineShowFlags::SF_Lighting,
+		FEngineShowFlags::SF_DeferredLighting,
+		FEngineShowFlags::SF_NaniteMeshes,
+		FEngineShowFlags::SF_InstancedStaticMeshes,
+		FEngineShowFlags::SF_InstancedFoliage,
+		FEngineShowFlags::SF_InstancedGrass,
+		FEngineShowFlags::SF_Paper2DSprites,
+		FEngineShowFlags::SF_TextRender,
+		FEngineShowFlags::SF_AmbientOcclusion,
+		FEngineShowFlags::SF_DynamicShadows,
+		FEngineShowFlags::SF_SkyLighting,
+		FEngineShowFlags::SF_VolumetricFog,
+		FEngineShowFlags::SF_AmbientCubemap,
+		FEngineShowFlags::SF_DistanceFieldAO,
+		FEngineShowFlags::SF_LightFunctions,
+		FEngineShowFlags::SF_LightShafts,
+		FEngineShowFlags::SF_PostProcessing,
+		FEngineShowFlags::SF_ReflectionEnvironment,
+		FEngineShowFlags::SF_ScreenSpaceReflections,
+		FEngineShowFlags::SF_TexturedLightProfiles,
+		FEngineShowFlags::SF_AntiAliasing,
+		FEngineShowFlags::SF_TemporalAA,
+		FEngineShowFlags::SF_MotionBlur,
+		FEngineShowFlags::SF_Bloom,
+		FEngineShowFlags::SF_LocalExposure,
+		FEngineShowFlags::SF_EyeAdaptation,
+		FEngineShowFlags::SF_Game,
+		FEngineShowFlags::SF_ToneCurve,
+		FEngineShowFlags::SF_PathTracing,
 	};
 
 	constexpr int32 NumShowFlagGroups = SFG_Max;
@@ -119,9 +121,9 @@ void FCaptureComponentDetailsCustomisation::CustomizeDetails(IDetailLayoutBuilde
 	}
 
 	TArray<FString> FlagsByGroup[NumShowFlagGroups];
-	for (const uint32 FlagIndex : OfferedShowFlags)
+	for (const FEngineShowFlags::EShowFlag Flag : OfferedShowFlags)
 	{
-		const FString FlagName = FEngineShowFlags::FindNameByIndex(FlagIndex);
+		const FString FlagName = FEngineShowFlags::FindNameByIndex(Flag);
 		if (FlagName.IsEmpty())
 		{
 			continue;
@@ -144,15 +146,21 @@ void FCaptureComponentDetailsCustomisation::CustomizeDetails(IDetailLayoutBuilde
 		IDetailGroup& DetailGroup = Category.AddGroup(FName(*Label.ToString()), Label, true, false);
 		for (const FString& FlagName : Flags)
 		{
+			// clang-format off
 			DetailGroup.AddWidgetRow()
-				.NameContent()
-					[SNew(STextBlock)
-							.Text(FText::FromString(GetDisplayName(FlagName)))
-							.Font(FCoreStyle::GetDefaultFontStyle("Regular", 8))]
-				.ValueContent()
-					[SNew(SCheckBox)
-							.IsChecked(this, &FCaptureComponentDetailsCustomisation::GetShowFlagCheckState, FlagName)
-							.OnCheckStateChanged(this, &FCaptureComponentDetailsCustomisation::OnShowFlagCheckStateChanged, FlagName)];
+			.NameContent()
+			[
+				SNew(STextBlock)
+				.Text(FText::FromString(GetDisplayName(FlagName)))
+				.Font(FCoreStyle::GetDefaultFontStyle("Regular", 8))
+			]
+			.ValueContent()
+			[
+				SNew(SCheckBox)
+				.IsChecked(this, &FCaptureComponentDetailsCustomisation::GetShowFlagCheckState, FlagName)
+				.OnCheckStateChanged(this, &FCaptureComponentDetailsCustomisation::OnShowFlagCheckStateChanged, FlagName)
+			];
+			// clang-format on
 		}
 	}
 }

@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #pragma once
 
 #include "CoreMinimal.h"
@@ -16,13 +18,13 @@ public:
 	using IDetailCustomization::CustomizeDetails;
 	virtual void CustomizeDetails(IDetailLayoutBuilder& DetailBuilder) override;
 
+private:
 	/** The effective value of the flag over every edited component; undetermined when they disagree. */
 	ECheckBoxState GetShowFlagCheckState(FString FlagName) const;
 
 	/** Stores the value on every edited component, as an override only where it differs from the archetype's. */
 	void OnShowFlagCheckStateChanged(ECheckBoxState NewState, FString FlagName);
 
-private:
 	/** The flag as the object's archetype has it; false without a capture-class archetype or for an unknown name. */
 	static bool GetArchetypeDefault(const UObject* OuterObject, const FString& FlagName);
 

@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "DetailCustomisations/MediaOutputDetailsCustomisation.h"
 
 #include "CastellanModule.h"
@@ -38,7 +40,13 @@ FMediaOutputDetailsCustomisation::FRowBuilder::FRowBuilder(FName InName, const F
 
 void FMediaOutputDetailsCustomisation::FRowBuilder::AddWidget(const TSharedRef<SWidget>& Widget)
 {
-	WrapBox->AddSlot().Padding(2.0f)[Widget];
+	// clang-format off
+	WrapBox->AddSlot()
+	.Padding(2.0f)
+	[
+		Widget
+	];
+	// clang-format on
 }
 
 TSharedRef<IDetailCustomization> FMediaOutputDetailsCustomisation::MakeInstance()
@@ -71,15 +79,19 @@ void FMediaOutputDetailsCustomisation::CustomizeDetails(IDetailLayoutBuilder& De
 	if (!FCastellanModule::SuggestLoadingHardwareEncodersPlugin())
 	{
 		FRowBuilder& HardwareEncodersRow = Rows.Emplace_GetRef(TEXT("Media Output"), FText::GetEmpty());
-		HardwareEncodersRow.AddWidget(SNew(STextBlock)
-										  .Text(FText::FromString(TEXT("Enable the 'HardwareEncoders' plugin for greater FPS")))
-										  .Font(FCoreStyle::GetDefaultFontStyle("Italic", 9))
-										  .ColorAndOpacity(FLinearColor::Yellow)
-										  .Visibility(this, &FMediaOutputDetailsCustomisation::GetHardwareEncodersHintVisibility));
-		HardwareEncodersRow.AddWidget(SNew(SButton)
-										  .ToolTip(HardwareEncodersToolTip)
-										  .Text(this, &FMediaOutputDetailsCustomisation::GetHardwareEncodersButtonText)
-										  .OnClicked(this, &FMediaOutputDetailsCustomisation::ClickEnableHardwareEncoders));
+		// clang-format off
+		HardwareEncodersRow.AddWidget(
+			SNew(STextBlock)
+			.Text(FText::FromString(TEXT("Enable the 'HardwareEncoders' plugin for greater FPS")))
+			.Font(FCoreStyle::GetDefaultFontStyle("Italic", 9))
+			.ColorAndOpacity(FLinearColor::Yellow)
+			.Visibility(this, &FMediaOutputDetailsCustomisation::GetHardwareEncodersHintVisibility));
+		HardwareEncodersRow.AddWidget(
+			SNew(SButton)
+			.ToolTip(HardwareEncodersToolTip)
+			.Text(this, &FMediaOutputDetailsCustomisation::GetHardwareEncodersButtonText)
+			.OnClicked(this, &FMediaOutputDetailsCustomisation::ClickEnableHardwareEncoders));
+		// clang-format on
 	}
 
 	// The label says milliseconds although a time span is shown; it is meant that way.
@@ -102,18 +114,27 @@ void FMediaOutputDetailsCustomisation::CustomizeDetails(IDetailLayoutBuilder& De
 	}
 
 	FRowBuilder& ControlRow = Rows.Emplace_GetRef(TEXT("Controls"), FText::FromString(TEXT("Control your stream")));
-	ControlRow.AddWidget(SNew(SButton)
-							 .Text(FText::FromString(TEXT("Start")))
-							 .IsEnabled(this, &FMediaOutputDetailsCustomisation::IsStartEnabled)
-							 .OnClicked(this, &FMediaOutputDetailsCustomisation::ClickStart, MediaOutput));
-	ControlRow.AddWidget(SNew(SButton)
-							 .Text(FText::FromString(TEXT("Stop")))
-							 .IsEnabled(this, &FMediaOutputDetailsCustomisation::IsStopEnabled)
-							 .OnClicked(this, &FMediaOutputDetailsCustomisation::ClickStop, MediaOutput));
+	// clang-format off
+	ControlRow.AddWidget(
+		SNew(SButton)
+		.Text(FText::FromString(TEXT("Start")))
+		.IsEnabled(this, &FMediaOutputDetailsCustomisation::IsStartEnabled)
+		.OnClicked(this, &FMediaOutputDetailsCustomisation::ClickStart, MediaOutput));
+	ControlRow.AddWidget(
+		SNew(SButton)
+		.Text(FText::FromString(TEXT("Stop")))
+		.IsEnabled(this, &FMediaOutputDetailsCustomisation::IsStopEnabled)
+		.OnClicked(this, &FMediaOutputDetailsCustomisation::ClickStop, MediaOutput));
+	// clang-format on
 
 	for (const FRowBuilder& Row : Rows)
 	{
-		ControlsGroup.AddWidgetRow()[Row.WrapBox.ToSharedRef()];
+		// clang-format off
+		ControlsGroup.AddWidgetRow()
+		[
+			Row.WrapBox.ToSharedRef()
+		];
+		// clang-format on
 	}
 }
 

@@ -1,20 +1,26 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #pragma once
 
 #include "ActiveSenderNamesCustomisation.h"
 #include "CoreMinimal.h"
 
-/** The NDI sources the finder sees now, for the receiver's sender picker. */
-struct FNDISenderSource
+/** The NDI sources the finder sees now, shared by every NDI sender picker. */
+class FNDIActiveSenderNameList : public FActiveSenderNameList
 {
-	static inline const FName KindPropertyName = TEXT("NDISoundWave");
-	static TArray<FString> GetLiveSenderNames();
+public:
+	static FNDIActiveSenderNameList& Get();
+
+protected:
+	virtual TArray<FString> GetLiveSenderNames() const override;
 };
 
-using FNDIActiveSenderNameList = TActiveSenderNameList<FNDISenderSource>;
-
 /** The sender picker of "KyroNDIReceiverInterface". */
-class FNDIActiveSenderNamesCustomisation : public TActiveSenderNamesCustomisation<FNDISenderSource>
+class FNDIActiveSenderNamesCustomisation : public FActiveSenderNamesCustomisation
 {
 public:
 	static TSharedRef<IPropertyTypeCustomization> MakeInstance();
+
+private:
+	FNDIActiveSenderNamesCustomisation();
 };

@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "ScreenCaptureDetailsCustomisation.h"
 
 #include "DetailLayoutBuilder.h"

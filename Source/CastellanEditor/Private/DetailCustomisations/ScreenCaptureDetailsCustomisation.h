@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #pragma once
 
 #include "CoreMinimal.h"
@@ -25,6 +27,7 @@ public:
 	virtual void CustomizeHeader(TSharedRef<IPropertyHandle> StructPropertyHandle, FDetailWidgetRow& HeaderRow, IPropertyTypeCustomizationUtils& Utils) override;
 	virtual void CustomizeChildren(TSharedRef<IPropertyHandle> StructPropertyHandle, IDetailChildrenBuilder& ChildBuilder, IPropertyTypeCustomizationUtils& Utils) override;
 
+private:
 	void AddSourcePickerRow(IDetailChildrenBuilder& ChildBuilder, TSharedRef<IPropertyHandle> StructPropertyHandle, ESourcePickerKind Kind);
 	TSharedPtr<IPropertyHandle> GetSourceNameProperty(TSharedRef<IPropertyHandle> StructPropertyHandle, ESourcePickerKind Kind);
 	void RefreshOptionList(ESourcePickerKind Kind);
@@ -38,7 +41,6 @@ public:
 	TSharedRef<SWidget> MakeOptionWidget(TSharedPtr<FString> StringItem);
 	void OnCaptureTypeChanged();
 
-private:
 	TSharedPtr<IPropertyHandle> CaptureTypeProperty;
 	uint8 CachedCaptureType = 0;
 	TArray<TSharedPtr<FString>> MonitorOptionList;

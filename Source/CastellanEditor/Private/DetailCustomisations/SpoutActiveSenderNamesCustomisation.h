@@ -1,20 +1,26 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #pragma once
 
 #include "ActiveSenderNamesCustomisation.h"
 #include "CoreMinimal.h"
 
-/** The Spout senders active on the machine, for the receiver's sender picker. */
-struct FSpoutSenderSource
+/** The Spout senders active on the machine, shared by every Spout sender picker. */
+class FSpoutActiveSenderNameList : public FActiveSenderNameList
 {
-	static inline const FName KindPropertyName = TEXT("bFixGamma");
-	static TArray<FString> GetLiveSenderNames();
+public:
+	static FSpoutActiveSenderNameList& Get();
+
+protected:
+	virtual TArray<FString> GetLiveSenderNames() const override;
 };
 
-using FSpoutActiveSenderNameList = TActiveSenderNameList<FSpoutSenderSource>;
-
 /** The sender picker of "KyroSpoutReceiverInterface". */
-class FSpoutActiveSenderNamesCustomisation : public TActiveSenderNamesCustomisation<FSpoutSenderSource>
+class FSpoutActiveSenderNamesCustomisation : public FActiveSenderNamesCustomisation
 {
 public:
 	static TSharedRef<IPropertyTypeCustomization> MakeInstance();
+
+private:
+	FSpoutActiveSenderNamesCustomisation();
 };

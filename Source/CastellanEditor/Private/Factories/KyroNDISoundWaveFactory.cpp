@@ -1,3 +1,5 @@
+// Copyright Nimbrel. All Rights Reserved.
+
 #include "Factories/KyroNDISoundWaveFactory.h"
 
 #include "UObject/UObjectGlobals.h"

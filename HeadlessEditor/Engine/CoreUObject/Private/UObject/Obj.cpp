@@ -54,8 +54,11 @@ bool UObject::Modify(bool bAlwaysMarkDirty)
 	return bSavedToTransactionBuffer;
 }
 
+FCoreUObjectDelegates::FOnObjectPropertyChanged FCoreUObjectDelegates::OnObjectPropertyChanged;
+
 void UObject::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
+	FCoreUObjectDelegates::OnObjectPropertyChanged.Broadcast(this, PropertyChangedEvent);
 }
 
 bool UObject::CanEditChange(const FProperty* InProperty) const

@@ -99,3 +99,11 @@ T* GetMutableDefault()
 {
 	return (T*)T::StaticClass()->GetDefaultObject();
 }
+
+/** Delegates of the object system. */
+struct COREUOBJECT_API FCoreUObjectDelegates
+{
+	/** Broadcast by UObject::PostEditChangeProperty, for each object an edit changed. */
+	DECLARE_MULTICAST_DELEGATE_TwoParams(FOnObjectPropertyChanged, UObject*, struct FPropertyChangedEvent&);
+	static FOnObjectPropertyChanged OnObjectPropertyChanged;
+};
