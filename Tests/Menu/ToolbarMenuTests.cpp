@@ -1,7 +1,7 @@
 #include "CastellanEditorCommands.h"
 #include "Framework/Docking/TabManager.h"
 #include "Headless/HeadlessDesktop.h"
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
 #include "Headless/HeadlessPlugins.h"
 #include "HeadlessEditorSession.h"
 #include "Internationalization/Internationalization.h"

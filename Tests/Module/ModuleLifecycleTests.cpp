@@ -2,6 +2,7 @@
 #include "CastellanEditorStyle.h"
 #include "Framework/Docking/TabManager.h"
 #include "HeadlessEditorSession.h"
+#include "HeadlessTabs.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
@@ -36,7 +37,7 @@ TEST(ModuleLifecycle, StartupRegistersTheWizardTabWithItsTitleTooltipAndIcon)
 {
 	FHeadlessEditorSession Session;
 
-	const TSharedPtr<const FTabSpawnerEntry> Spawner = FWidgetDriver::FindNomadTabSpawner(WizardTab);
+	const TSharedPtr<const FTabSpawnerEntry> Spawner = UE::Headless::FindNomadTabSpawner(WizardTab);
 	ASSERT_TRUE(Spawner.IsValid());
 	EXPECT_EQ(Spawner->GetDisplayName().ToString(), TEXT("Livestream Wizard"));
 	EXPECT_EQ(Spawner->GetTooltipText().ToString(), TEXT("Open the Livestream Wizard tab."));
@@ -103,7 +104,7 @@ TEST(ModuleLifecycle, OpeningTheWizardTwiceShowsOneTab)
 
 	ASSERT_TRUE(First.IsValid());
 	EXPECT_EQ(First, Second);
-	EXPECT_EQ(FWidgetDriver::GetAttentionRequests(*First), 1);
+	EXPECT_EQ(UE::Headless::GetAttentionRequests(*First), 1);
 }
 
 TEST(ModuleLifecycle, TheWizardTabIsANomadTabHoldingTheWizard)

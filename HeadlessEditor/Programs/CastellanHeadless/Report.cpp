@@ -7,7 +7,8 @@
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Commands/UICommandInfo.h"
 #include "GameFramework/Actor.h"
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
+#include "HeadlessTabs.h"
 #include "IPlacementModeModule.h"
 #include "KyroMediaOutput.h"
 #include "KyroNDISenderManager.h"
@@ -37,14 +38,14 @@ namespace
 		{
 			return;
 		}
-		TArray<FName> Keys;
-		static_cast<const FSlateStyleSet*>(Style)->GetBrushKeys(Keys);
-		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Style->GetStyleSetName().ToString(), Keys.Num()));
+		TArray<const FSlateBrush*> Brushes;
+		Style->GetResources(Brushes);
+		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Style->GetStyleSetName().ToString(), Brushes.Num()));
 	}
 
 	void DescribeTab(FString& Out)
 	{
-		const TSharedPtr<const FTabSpawnerEntry> Spawner = FWidgetDriver::FindNomadTabSpawner(TEXT("LivestreamWizard"));
+		const TSharedPtr<const FTabSpawnerEntry> Spawner = UE::Headless::FindNomadTabSpawner(TEXT("LivestreamWizard"));
 		if (!Spawner.IsValid())
 		{
 			return;

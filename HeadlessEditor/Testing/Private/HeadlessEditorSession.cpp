@@ -3,10 +3,10 @@
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
 #include "Framework/Application/SlateApplication.h"
-#include "Framework/Docking/TabManager.h"
 #include "Headless/HeadlessDesktop.h"
-#include "Headless/HeadlessNotifications.h"
 #include "Headless/HeadlessPlugins.h"
+#include "HeadlessNotifications.h"
+#include "HeadlessTabs.h"
 #include "HeadlessEditorEngine.h"
 #include "HeadlessLevelViewports.h"
 #include "HeadlessSlateRenderer.h"
@@ -85,7 +85,7 @@ FHeadlessEditorSession::~FHeadlessEditorSession()
 	UE::Headless::ResetDesktop();
 	LevelViewports.reset();
 	HeadlessEditorEngine::Destroy();
-	FGlobalTabmanager::Get()->ResetForHeadlessSession();
+	UE::Headless::ResetTabs();
 	FSlateApplication::Shutdown();
 	UE::Headless::UnmountAllPlugins();
 }

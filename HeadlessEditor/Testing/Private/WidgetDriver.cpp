@@ -1,9 +1,7 @@
 #include "WidgetDriver.h"
 
 #include "Framework/Application/SlateApplication.h"
-#include "Framework/Docking/TabManager.h"
 #include "Layout/Children.h"
-#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
@@ -169,11 +167,6 @@ bool FWidgetDriver::UsesAllottedSize(const SWrapBox& WrapBox)
 	return WrapBox.bUseAllottedSize;
 }
 
-int32 FWidgetDriver::GetAttentionRequests(const SDockTab& Tab)
-{
-	return Tab.FlashCount;
-}
-
 bool FWidgetDriver::Click(const TSharedRef<SButton>& Button)
 {
 	if (!IsShown(Button) || !IsEffectivelyEnabled(Button))
@@ -196,12 +189,39 @@ bool FWidgetDriver::ToggleCheckBox(const TSharedRef<SCheckBox>& CheckBox)
 
 bool FWidgetDriver::TypeText(const TSharedRef<SEditableTextBox>& TextBox, const FText& Text, ETextCommit::Type CommitType)
 {
-	if (!IsShown(TextBox) || !IsEffectivelyEnabled(TextBox) || TextBox->IsReadOnly.Get(false))
+	if (!IsShown(TextBox) || !IsEffectivelyEnabled(TextBox) || TextBox->IsReadOnly())
 	{
 		return false;
 	}
-	TextBox->HandleUserEdit(Text);
-	TextBox->HandleCommit(CommitType);
+	checkf(FSlateApplication::IsInitialized(), TEXT("Typing needs the Slate application"));
+	FSlateApplication& Application = FSlateApplication::Get();
+	Application.SetKeyboardFocus(TextBox, EFocusCause::Mouse);
+	const FModifierKeysState Control(false, false, true, false, false, false, false, false, false);
+	Application.ProcessKeyDownEvent(FKeyEvent(EKeys::A, Control, 0, false, 0, 0));
+	const FString Characters = Text.ToString();
+	if (Characters.IsEmpty())
+	{
+		Application.ProcessKeyDownEvent(FKeyEvent(EKeys::BackSpace, FModifierKeysState(), 0, false, 0, 0));
+	}
+	for (const TCHAR Character : Characters)
+	{
+		Application.ProcessKeyCharEvent(FCharacterEvent(Character, FModifierKeysState(), 0, false));
+	}
+	switch (CommitType)
+	{
+		case ETextCommit::OnEnter:
+			Application.ProcessKeyDownEvent(FKeyEvent(EKeys::Enter, FModifierKeysState(), 0, false, 0, 0));
+			break;
+		case ETextCommit::OnUserMovedFocus:
+			Application.ClearKeyboardFocus(EFocusCause::Mouse);
+			break;
+		case ETextCommit::OnCleared:
+			Application.ClearKeyboardFocus(EFocusCause::Cleared);
+			break;
+		default:
+			Application.ClearKeyboardFocus(EFocusCause::SetDirectly);
+			break;
+	}
 	return true;
 }
 
@@ -219,10 +239,4 @@ FString FWidgetDriver::DescribeTree(const TSharedRef<SWidget>& Root)
 	FString Description;
 	DescribeWidget(Root, 0, Description);
 	return Description;
-}
-
-TSharedPtr<const FTabSpawnerEntry> FWidgetDriver::FindNomadTabSpawner(FName TabId)
-{
-	const TSharedRef<FTabSpawnerEntry>* Entry = FGlobalTabmanager::Get()->NomadTabSpawner.Find(TabId);
-	return Entry ? TSharedPtr<const FTabSpawnerEntry>(*Entry) : TSharedPtr<const FTabSpawnerEntry>();
 }

@@ -1,4 +1,4 @@
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
 
 #include "Framework/MultiBox/MenuBlocks.h"
 #include "Framework/MultiBox/MultiBox.h"

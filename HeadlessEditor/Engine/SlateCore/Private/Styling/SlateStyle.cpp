@@ -40,14 +40,6 @@ void FSlateStyleSet::GetResources(TArray<const FSlateBrush*>& OutResources) cons
 	}
 }
 
-void FSlateStyleSet::GetBrushKeys(TArray<FName>& OutKeys) const
-{
-	for (const TPair<FName, FSlateBrush*>& Pair : BrushResources)
-	{
-		OutKeys.Add(Pair.Key);
-	}
-}
-
 void FSlateStyleSet::SetContentRoot(const FString& InContentRootDir)
 {
 	ContentRootDir = InContentRootDir;

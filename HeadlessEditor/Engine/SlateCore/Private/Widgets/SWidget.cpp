@@ -33,6 +33,20 @@ void SWidget::SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32
 	TypeOfWidget = FName(InType);
 }
 
+FReply SWidget::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	return FReply::Unhandled();
+}
+
+void SWidget::OnFocusLost(const FFocusEvent& InFocusEvent)
+{
+}
+
+FReply SWidget::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent)
+{
+	return FReply::Unhandled();
+}
+
 FReply SWidget::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
 	// A focusable widget takes the navigation keys to move focus; the headless editor moves none.
@@ -102,7 +116,7 @@ void SWidget::AssignParentWidget(TSharedPtr<SWidget> InParent)
 	}
 }
 
-bool SWidget::ConditionallyDetachParentWidget(SWidget* InExpectedParent)
+bool SWidget::ConditionallyDetatchParentWidget(SWidget* InExpectedParent)
 {
 	if (ParentWidgetPtr.Pin().Get() == InExpectedParent)
 	{
@@ -130,4 +144,9 @@ FName SWidget::GetTag() const
 FString SWidget::ToString() const
 {
 	return GetTypeAsString();
+}
+
+const FGeometry& SWidget::GetPaintSpaceGeometry() const
+{
+	return PaintSpaceGeometry;
 }

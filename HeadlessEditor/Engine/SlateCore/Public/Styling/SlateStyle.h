@@ -49,9 +49,6 @@ public:
 		FontInfoResources.Add(PropertyName, InFontInfo);
 	}
 
-	/** Headless only: the keys of the brushes in the order they were added, for tests to read the set. */
-	void GetBrushKeys(TArray<FName>& OutKeys) const;
-
 protected:
 	void SetBrush(const FName PropertyName, FSlateBrush* InBrush);
 

@@ -111,6 +111,7 @@ struct SLATECORE_API FComboBoxStyle : public FSlateWidgetStyle
 
 	FComboButtonStyle ComboButtonStyle;
 	FMargin ContentPadding;
+	FMargin MenuRowPadding;
 
 	static const FName TypeName;
 };

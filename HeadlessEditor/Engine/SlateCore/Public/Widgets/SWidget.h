@@ -14,15 +14,17 @@ struct FSlateBaseNamedArgs;
 /** The base of every widget: visibility, enabled state, tooltip, parent and children, input handlers. */
 class SLATECORE_API SWidget : public TSharedFromThis<SWidget>
 {
+	template <class WidgetType, typename RequiredArgsPayloadType>
+	friend struct TSlateDecl;
+
 public:
-	virtual ~SWidget();
+	/** Called when this widget gets keyboard focus. */
+	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent);
+	/** Called when this widget loses keyboard focus. */
+	virtual void OnFocusLost(const FFocusEvent& InFocusEvent);
 
-	/** Applies the arguments every widget takes (visibility, enabled state, tooltip, tag). */
-	void SWidgetConstruct(const FSlateBaseNamedArgs& Args);
-
-	/** Called by SNew and SAssignNew with the widget's declared type and where it was made. */
-	void SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize);
-
+	/** Called after a character is typed while this widget or a descendant has keyboard focus. */
+	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent);
 	/** Called when a key is pressed while this widget or a descendant has keyboard focus. */
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent);
 	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent);
@@ -52,7 +54,7 @@ public:
 	virtual void SetVisibility(TAttribute<EVisibility> InVisibility);
 
 	void AssignParentWidget(TSharedPtr<SWidget> InParent);
-	bool ConditionallyDetachParentWidget(SWidget* InExpectedParent);
+	bool ConditionallyDetatchParentWidget(SWidget* InExpectedParent);
 	bool IsParentValid() const { return ParentWidgetPtr.IsValid(); }
 	TSharedPtr<SWidget> GetParentWidget() const { return ParentWidgetPtr.Pin(); }
 
@@ -60,10 +62,21 @@ public:
 	FString GetTypeAsString() const;
 	FName GetType() const;
 	virtual FName GetTag() const;
-	FString ToString() const;
+	virtual FString ToString() const;
+
+	/** The geometry the widget was last painted with; empty before its first paint. */
+	const FGeometry& GetPaintSpaceGeometry() const;
 
 protected:
 	SWidget();
+
+	/** Applies the arguments every widget takes (visibility, enabled state, tooltip, tag). */
+	void SWidgetConstruct(const FSlateBaseNamedArgs& Args);
+
+	/** Called by SNew and SAssignNew with the widget's declared type and where it was made. */
+	void SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize);
+
+	virtual ~SWidget();
 
 	/** The tooltip shown when the widget is hovered. */
 	TAttribute<TSharedPtr<IToolTip>> ToolTip;
@@ -76,4 +89,6 @@ private:
 	TAttribute<FText> PendingToolTipText;
 	FName Tag;
 	FName TypeOfWidget;
+	/** Where the widget was last painted. */
+	FGeometry PaintSpaceGeometry;
 };

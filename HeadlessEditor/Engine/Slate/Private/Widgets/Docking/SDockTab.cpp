@@ -1,13 +1,19 @@
 #include "Widgets/Docking/SDockTab.h"
 
+#include "Framework/Docking/DockingState.h"
 #include "Framework/Docking/TabManager.h"
 
 SDockTab::SDockTab()
 	: Content(SNullWidget::NullWidget)
 	, TabRole(ETabRole::PanelTab)
 	, bCanEverClose(true)
-	, FlashCount(0)
 {
+}
+
+SDockTab::~SDockTab()
+{
+	FDockingState::Get().AttentionRequests.RemoveAll([this](const TPair<const SDockTab*, int32>& Request)
+		{ return Request.Key == this; });
 }
 
 void SDockTab::Construct(const FArguments& InArgs)
@@ -48,9 +54,19 @@ bool SDockTab::RequestCloseTab()
 	}
 	const TSharedRef<SDockTab> Self = SharedThis(this);
 	OnTabClosed.ExecuteIfBound(Self);
-	if (const TSharedPtr<FTabManager> TabManager = MyTabManager.Pin())
-	{
-		TabManager->OnTabClosing(Self);
-	}
+	FDockingState::Get().RemoveLiveTab(*this);
 	return true;
+}
+
+void SDockTab::FlashTab()
+{
+	for (TPair<const SDockTab*, int32>& Request : FDockingState::Get().AttentionRequests)
+	{
+		if (Request.Key == this)
+		{
+			++Request.Value;
+			return;
+		}
+	}
+	FDockingState::Get().AttentionRequests.Add(TPair<const SDockTab*, int32>(this, 1));
 }

@@ -1,7 +1,10 @@
 #include "Widgets/Input/SEditableTextBox.h"
 
+#include "Framework/Application/SlateApplication.h"
+
 SEditableTextBox::SEditableTextBox()
 	: bIsEditing(false)
+	, bAllTextSelected(false)
 {
 }
 
@@ -11,8 +14,10 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 	EditedText = BoundText.Get(FText::GetEmpty());
 	HintText = InArgs._HintText;
 	Font = InArgs._Font;
-	IsReadOnly = InArgs._IsReadOnly;
+	ReadOnly = InArgs._IsReadOnly;
+	SelectAllTextWhenFocused = InArgs._SelectAllTextWhenFocused;
 	RevertTextOnEscape = InArgs._RevertTextOnEscape;
+	ClearKeyboardFocusOnCommit = InArgs._ClearKeyboardFocusOnCommit;
 	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
 
@@ -35,31 +40,87 @@ void SEditableTextBox::SetText(const TAttribute<FText>& InNewText)
 	bIsEditing = false;
 }
 
+FReply SEditableTextBox::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	bAllTextSelected = SelectAllTextWhenFocused.Get(false);
+	return FReply::Handled();
+}
+
+void SEditableTextBox::OnFocusLost(const FFocusEvent& InFocusEvent)
+{
+	bAllTextSelected = false;
+	// Leaving the box commits what was typed; the cause says how the user left it.
+	if (bIsEditing)
+	{
+		switch (InFocusEvent.GetCause())
+		{
+			case EFocusCause::Mouse:
+			case EFocusCause::Navigation:
+				HandleCommit(ETextCommit::OnUserMovedFocus);
+				break;
+			case EFocusCause::Cleared:
+				HandleCommit(ETextCommit::OnCleared);
+				break;
+			default:
+				HandleCommit(ETextCommit::Default);
+				break;
+		}
+	}
+}
+
+FReply SEditableTextBox::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent)
+{
+	const TCHAR Character = InCharacterEvent.GetCharacter();
+	// Control characters arrive as key presses; only printable ones are typed.
+	if (IsReadOnly() || Character < TEXT(' ') || Character == 127)
+	{
+		return FReply::Unhandled();
+	}
+	const FString Typed = FString::Chr(Character);
+	HandleUserEdit(FText::FromString(bAllTextSelected ? Typed : GetText().ToString() + Typed));
+	bAllTextSelected = false;
+	return FReply::Handled();
+}
+
 FReply SEditableTextBox::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	const bool bReadOnly = IsReadOnly.Get(false);
+	const FKey Key = InKeyEvent.GetKey();
+	if (Key == EKeys::A && InKeyEvent.IsControlDown())
+	{
+		bAllTextSelected = true;
+		return FReply::Handled();
+	}
 	// Enter commits the text and is consumed by the box, as the engine's single-line text box does.
-	if (InKeyEvent.GetKey() == EKeys::Enter && !bReadOnly)
+	if (Key == EKeys::Enter && !IsReadOnly())
 	{
 		if (!InKeyEvent.IsRepeat())
 		{
 			HandleCommit(ETextCommit::OnEnter);
+			if (ClearKeyboardFocusOnCommit.Get(true) && HasKeyboardFocus())
+			{
+				FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::Cleared);
+			}
 		}
 		return FReply::Handled();
 	}
-	if (InKeyEvent.GetKey() == EKeys::Escape && RevertTextOnEscape.Get(false) && bIsEditing)
+	if (Key == EKeys::Escape && RevertTextOnEscape.Get(false) && bIsEditing)
 	{
 		HandleUserEdit(TextAtEditStart);
 		HandleCommit(ETextCommit::OnCleared);
 		return FReply::Handled();
 	}
-	if (InKeyEvent.GetKey() == EKeys::BackSpace && !bReadOnly)
+	if (Key == EKeys::BackSpace && !IsReadOnly())
 	{
 		const FString Current = GetText().ToString();
-		if (!Current.IsEmpty())
+		if (bAllTextSelected)
+		{
+			HandleUserEdit(FText::GetEmpty());
+		}
+		else if (!Current.IsEmpty())
 		{
 			HandleUserEdit(FText::FromString(Current.Left(Current.Len() - 1)));
 		}
+		bAllTextSelected = false;
 		return FReply::Handled();
 	}
 	return SBorder::OnKeyDown(MyGeometry, InKeyEvent);

@@ -3,6 +3,7 @@
 #include "Application/SlateApplicationBase.h"
 #include "CoreMinimal.h"
 #include "Input/Events.h"
+#include "Input/Reply.h"
 #include "Rendering/SlateRenderer.h"
 
 class SWidget;
@@ -37,12 +38,18 @@ public:
 	 * it. @return whether a widget handled it.
 	 */
 	bool ProcessKeyDownEvent(const FKeyEvent& InKeyEvent);
+	bool ProcessKeyUpEvent(const FKeyEvent& InKeyEvent);
+	/** Sends a typed character along the same path as a key press. */
+	bool ProcessKeyCharEvent(const FCharacterEvent& InCharacterEvent);
 
 	virtual TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) override;
 	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) override;
 
 private:
 	FSlateApplication() = default;
+
+	/** Offers an event to the focused widget, then to each ancestor, until one handles it. */
+	bool RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler) const;
 
 	static TSharedPtr<FSlateApplication> CurrentApplication;
 

@@ -43,6 +43,7 @@ public:
 		SLATE_END_ARGS()
 
 		SDockTab();
+		virtual ~SDockTab();
 		void Construct(const FArguments& InArgs);
 
 		/** What this tab shows. */
@@ -62,23 +63,19 @@ public:
 		/** Closes the tab if it can close; @return whether it closed. */
 		bool RequestCloseTab();
 
-		/** Draws the user's eye to the tab; the headless editor only counts the requests. */
-		void FlashTab() { ++FlashCount; }
+		/** Draws the user's eye to the tab: its tab well flashes it. */
+		void FlashTab();
 
 		/** The tab manager that spawned this tab. */
 		TSharedPtr<FTabManager> GetTabManagerPtr() const { return MyTabManager.Pin(); }
 		void SetTabManager(const TSharedPtr<FTabManager>& InTabManager) { MyTabManager = InTabManager; }
 
 	private:
-		// The headless test driver reads how often a tab asked for attention.
-		friend class FWidgetDriver;
-
 		TSharedRef<SWidget> Content;
 		ETabRole TabRole;
 		TAttribute<FText> TabLabel;
 		FOnTabClosedCallback OnTabClosed;
 		FCanCloseTab OnCanCloseTab;
 		bool bCanEverClose;
-		int32 FlashCount;
 		TWeakPtr<FTabManager> MyTabManager;
 };

@@ -6,10 +6,10 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
-DECLARE_DELEGATE_OneParam(FOnIsOpenChanged, bool)
+DECLARE_DELEGATE_OneParam(FOnIsOpenChanged, bool);
 
-	/** A button that opens a menu when clicked. */
-	class SLATE_API SComboButton : public SCompoundWidget
+/** A button that opens a menu when clicked. */
+class SLATE_API SComboButton : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SComboButton)
@@ -49,7 +49,7 @@ public:
 		void Construct(const FArguments& InArgs);
 
 		/** Opens or closes the menu; opening builds its content through OnGetMenuContent. */
-		void SetIsOpen(bool InIsOpen, const bool bFocusMenu = true, const int32 FocusUserIndex = 0);
+		virtual void SetIsOpen(bool InIsOpen, const bool bFocusMenu = true, const int32 FocusUserIndex = 0);
 		bool IsOpen() const { return bIsOpen; }
 
 		void SetMenuContent(TSharedRef<SWidget> InMenuContent) { MenuContent = InMenuContent; }
@@ -60,7 +60,7 @@ public:
 
 	protected:
 		/** Called when the button is clicked: toggles the menu. */
-		FReply OnButtonClicked();
+		virtual FReply OnButtonClicked();
 
 		/** The widget shown in the open menu. */
 		TSharedPtr<SWidget> MenuContent;

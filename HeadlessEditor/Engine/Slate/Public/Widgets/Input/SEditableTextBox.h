@@ -55,15 +55,16 @@ public:
 		FText GetHintText() const { return HintText.Get(); }
 		void SetHintText(const TAttribute<FText>& InHintText) { HintText = InHintText; }
 		void SetFont(const TAttribute<FSlateFontInfo>& InFont) { Font = InFont; }
-		void SetIsReadOnly(TAttribute<bool> InIsReadOnly) { IsReadOnly = MoveTemp(InIsReadOnly); }
+		void SetIsReadOnly(TAttribute<bool> InIsReadOnly) { ReadOnly = MoveTemp(InIsReadOnly); }
+		bool IsReadOnly() const { return ReadOnly.Get(false); }
 
 		virtual bool SupportsKeyboardFocus() const override { return true; }
+		virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent) override;
+		virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
+		virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 
 	private:
-		// The headless test driver types into the box as a user would.
-		friend class FWidgetDriver;
-
 		/** The user changed the text: it is shown, kept in an unbound text attribute and reported. */
 		void HandleUserEdit(const FText& InNewText);
 		/** The user committed the text: it is reported, then a bound text is read again. */
@@ -71,11 +72,16 @@ public:
 
 		TAttribute<FText> BoundText;
 		FText EditedText;
+		/** Whether the user has edited the text since it was last committed. */
 		bool bIsEditing;
+		/** Whether the whole text is selected, so that the next character replaces it. */
+		bool bAllTextSelected;
 		TAttribute<FText> HintText;
 		TAttribute<FSlateFontInfo> Font;
-		TAttribute<bool> IsReadOnly;
+		TAttribute<bool> ReadOnly;
+		TAttribute<bool> SelectAllTextWhenFocused;
 		TAttribute<bool> RevertTextOnEscape;
+		TAttribute<bool> ClearKeyboardFocusOnCommit;
 		FText TextAtEditStart;
 		FOnTextChanged OnTextChanged;
 		FOnTextCommitted OnTextCommitted;

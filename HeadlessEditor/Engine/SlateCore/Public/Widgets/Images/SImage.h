@@ -33,11 +33,6 @@ public:
 		void SetColorAndOpacity(const TAttribute<FSlateColor>& InColorAndOpacity) { ColorAndOpacity = InColorAndOpacity; }
 		void SetDesiredSizeOverride(TAttribute<TOptional<FVector2D>> InDesiredSizeOverride) { DesiredSizeOverride = MoveTemp(InDesiredSizeOverride); }
 
-		/** Headless only: the brush the image draws, read from its attribute. */
-		const FSlateBrush* GetImage() const { return Image.Get(); }
-		/** Headless only: the colour the image is tinted with. */
-		FSlateColor GetColorAndOpacity() const { return ColorAndOpacity.Get(); }
-
 	private:
 		TAttribute<const FSlateBrush*> Image;
 		TAttribute<FSlateColor> ColorAndOpacity;
