@@ -6,6 +6,7 @@
 #include "Modules/ModuleManager.h"
 #include "Report.h"
 #include "WidgetDriver.h"
+#include "WidgetRenderer.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
@@ -13,6 +14,7 @@
 #include "Widgets/Input/SEditableTextBox.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -33,17 +35,53 @@ namespace
 			"  create   fill in the wizard, press Create and print the done page, the level and the assets\n"
 			"           --capture \"Kyro Cinecam\"|\"Kyro 360 Camera\"|\"Kyro Viewport Capture\"\n"
 			"           --output Spout|NDI|\"Media Output (RTMP, SRT, MP4 etc.)\"|\"Virtual Webcam\" (repeatable)\n"
-			"           --name <livestream name>\n",
+			"           --name <livestream name>\n"
+			"  render   draw the Livestream Wizard tab as the editor shows it and write it as a PNG file\n"
+			"           <file.png> [--width <pixels, 480>] [--height <pixels, 720>]\n",
 			stderr);
 		return 2;
 	}
 
-	TSharedRef<SWidget> OpenWizard()
+	TSharedRef<SDockTab> OpenWizardTab()
 	{
 		FModuleManager::GetModuleChecked<FCastellanEditorModule>(TEXT("CastellanEditor")).PluginButtonClicked();
 		const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FCastellanEditorModule::LivestreamWizardTabName));
 		check(Tab.IsValid());
-		return Tab->GetContent();
+		return Tab.ToSharedRef();
+	}
+
+	TSharedRef<SWidget> OpenWizard()
+	{
+		return OpenWizardTab()->GetContent();
+	}
+
+	int RunRender(int ArgumentCount, char** Arguments)
+	{
+		if (ArgumentCount < 3)
+		{
+			return PrintUsage();
+		}
+		const FString Path = FString::FromUtf8(Arguments[2]);
+		int32 Width = 480;
+		int32 Height = 720;
+		for (int Index = 3; Index + 1 < ArgumentCount; Index += 2)
+		{
+			const std::string Option = Arguments[Index];
+			const int32 Value = std::atoi(Arguments[Index + 1]);
+			if (Value <= 0 || (Option != "--width" && Option != "--height"))
+			{
+				return PrintUsage();
+			}
+			(Option == "--width" ? Width : Height) = Value;
+		}
+		FHeadlessEditorSession Session;
+		if (!FWidgetRenderer::RenderWidget(OpenWizardTab(), Width, Height).SavePng(Path))
+		{
+			std::fputs("Could not write the picture\n", stderr);
+			return 1;
+		}
+		Print(FString::Printf(TEXT("Wrote the Livestream Wizard tab at %dx%d to %s\n"), Width, Height, *Path));
+		return 0;
 	}
 
 	int RunWizard()
@@ -163,6 +201,10 @@ int main(int ArgumentCount, char** Arguments)
 	if (Command == "create")
 	{
 		return RunCreate(ArgumentCount, Arguments);
+	}
+	if (Command == "render")
+	{
+		return RunRender(ArgumentCount, Arguments);
 	}
 	return PrintUsage();
 }

@@ -2,10 +2,11 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "Layout/Children.h"
+#include "Rendering/DrawElements.h"
+#include "WidgetRenderer.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
-#include "Widgets/Layout/SWrapBox.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -142,29 +143,50 @@ bool FWidgetDriver::IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget)
 	return true;
 }
 
+TArray<FWidgetDriver::FPaintedText> FWidgetDriver::GetPaintedText(const TSharedRef<SWidget>& Widget)
+{
+	TSharedRef<SWidget> Root = Widget;
+	while (const TSharedPtr<SWidget> Parent = Root->GetParentWidget())
+	{
+		Root = Parent.ToSharedRef();
+	}
+	Root->SlatePrepass(1.0f);
+	FSlateWindowElementList Elements(nullptr);
+	FWidgetRenderer::PaintWidget(Root, Root->GetDesiredSize(), Elements);
+
+	TArray<FPaintedText> Lines;
+	const FSlateRect Area = Widget->GetPaintSpaceGeometry().GetLayoutBoundingRect();
+	for (const FSlateDrawElement& Element : Elements.GetUncachedDrawElements())
+	{
+		if (Element.GetElementType() != EElementType::ET_Text || !Area.ContainsPoint(Element.GetPosition()))
+		{
+			continue;
+		}
+		const FSlateTextPayload& Payload = Element.GetDataPayload<FSlateTextPayload>();
+		const FVector2D Size = Element.GetLocalSize() * static_cast<double>(Element.GetScale());
+		Lines.Add({FString(Payload.GetText()), Payload.GetFontInfo(), Payload.GetTint(), FSlateRect(Element.GetPosition(), Element.GetPosition() + Size), Element.GetDrawEffects()});
+	}
+	return Lines;
+}
+
+namespace
+{
+	FWidgetDriver::FPaintedText GetFirstPaintedLine(const STextBlock& TextBlock)
+	{
+		const TArray<FWidgetDriver::FPaintedText> Lines = FWidgetDriver::GetPaintedText(StaticCastSharedRef<SWidget>(const_cast<STextBlock&>(TextBlock).AsShared()));
+		checkf(Lines.Num() > 0, TEXT("The text block paints no text: it is empty or not shown"));
+		return Lines[0];
+	}
+}
+
 FSlateFontInfo FWidgetDriver::GetFont(const STextBlock& TextBlock)
 {
-	return TextBlock.GetFont();
+	return GetFirstPaintedLine(TextBlock).Font;
 }
 
 FSlateColor FWidgetDriver::GetColor(const STextBlock& TextBlock)
 {
-	return TextBlock.GetColorAndOpacity();
-}
-
-FMargin FWidgetDriver::GetMargin(const STextBlock& TextBlock)
-{
-	return TextBlock.GetMargin();
-}
-
-ETextJustify::Type FWidgetDriver::GetJustification(const STextBlock& TextBlock)
-{
-	return TextBlock.GetJustification();
-}
-
-bool FWidgetDriver::UsesAllottedSize(const SWrapBox& WrapBox)
-{
-	return WrapBox.bUseAllottedSize;
+	return FSlateColor(GetFirstPaintedLine(TextBlock).Color);
 }
 
 bool FWidgetDriver::Click(const TSharedRef<SButton>& Button)

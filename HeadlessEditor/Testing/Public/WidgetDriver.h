@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 #include "Framework/Text/TextLayout.h"
+#include "Layout/SlateRect.h"
+#include "Rendering/RenderingCommon.h"
 #include "HeadlessLists.h"
 #include "InputCoreTypes.h"
 #include "Styling/SlateTypes.h"
@@ -14,7 +16,6 @@ class SButton;
 class SCheckBox;
 class SEditableTextBox;
 class STextBlock;
-class SWrapBox;
 
 /**
  * Drives widget trees as a user would, where the engine would need a real window: finds widgets by
@@ -55,11 +56,28 @@ public:
 	/** Whether the widget and all its ancestors are enabled. */
 	static bool IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget);
 
+	/** A line of text a widget paints. */
+	struct FPaintedText
+	{
+		FString Text;
+		FSlateFontInfo Font;
+		/** The colour the text is drawn in. */
+		FLinearColor Color;
+		/** Where the line's box is, in the window the widget is painted in. */
+		FSlateRect Rect;
+		ESlateDrawEffect Effects;
+	};
+
+	/**
+	 * The lines of text a widget paints, as it is painted in its window: the root of its tree is laid
+	 * out at its desired size and painted, and the text inside the widget's painted area is read.
+	 */
+	static TArray<FPaintedText> GetPaintedText(const TSharedRef<SWidget>& Widget);
+
+	/** The font a text block draws its text in; the block must show some text. */
 	static FSlateFontInfo GetFont(const STextBlock& TextBlock);
+	/** The colour a text block draws its text in; the block must show some text. */
 	static FSlateColor GetColor(const STextBlock& TextBlock);
-	static FMargin GetMargin(const STextBlock& TextBlock);
-	static ETextJustify::Type GetJustification(const STextBlock& TextBlock);
-	static bool UsesAllottedSize(const SWrapBox& WrapBox);
 
 	/** Clicks a button as a user would: only a shown, enabled button can be clicked. @return whether it was. */
 	static bool Click(const TSharedRef<SButton>& Button);

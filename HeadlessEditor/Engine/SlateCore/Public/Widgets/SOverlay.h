@@ -48,6 +48,13 @@ public:
 	void ClearChildren() { Children.Empty(); }
 
 	virtual FChildren* GetChildren() override { return &Children; }
+	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	/** Each layer is drawn above everything the layers before it drew. */
+	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+protected:
+	/** The largest of the children's desired sizes, each with its slot's padding. */
+	virtual FVector2D ComputeDesiredSize(float) const override;
 
 private:
 	TPanelChildren<FOverlaySlot> Children;

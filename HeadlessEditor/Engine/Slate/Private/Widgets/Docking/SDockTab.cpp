@@ -2,6 +2,8 @@
 
 #include "Framework/Docking/DockingState.h"
 #include "Framework/Docking/TabManager.h"
+#include "Styling/AppStyle.h"
+#include "Styling/SlateTypes.h"
 
 SDockTab::SDockTab()
 	: Content(SNullWidget::NullWidget)
@@ -25,9 +27,21 @@ void SDockTab::Construct(const FArguments& InArgs)
 	OnCanCloseTab = InArgs._OnCanCloseTab;
 	bCanEverClose = InArgs._CanEverClose;
 
+	// The tab stands for the docking area showing its content: the content area's brush, behind the content.
 	SBorder::Construct(SBorder::FArguments()
+						   .BorderImage(this, &SDockTab::GetContentAreaBrush)
 						   .Padding(InArgs._ContentPadding)
 							   [Content]);
+}
+
+const FDockTabStyle& SDockTab::GetCurrentStyle() const
+{
+	return FAppStyle::Get().GetWidgetStyle<FDockTabStyle>(GetVisualTabRole() == ETabRole::MajorTab ? "Docking.MajorTab" : "Docking.Tab");
+}
+
+const FSlateBrush* SDockTab::GetContentAreaBrush() const
+{
+	return &GetCurrentStyle().ContentAreaBrush;
 }
 
 TSharedRef<SWidget> SDockTab::GetContent()

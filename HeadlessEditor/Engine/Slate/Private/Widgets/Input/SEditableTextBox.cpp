@@ -1,9 +1,23 @@
 #include "Widgets/Input/SEditableTextBox.h"
 
+#include "Fonts/FontMeasure.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Rendering/DrawElements.h"
+#include "Styling/WidgetStyle.h"
+
+#include <algorithm>
+
+namespace
+{
+	/** The caret's width: it sits after the last character, so the box leaves room for it. */
+	const float CaretWidth = 2.0f;
+	/** A hint shows in the text's colour, faded. */
+	const float HintOpacity = 0.35f;
+}
 
 SEditableTextBox::SEditableTextBox()
-	: bIsEditing(false)
+	: Style(&FCoreStyle::Get().GetWidgetStyle<FEditableTextBoxStyle>("NormalEditableTextBox"))
+	, bIsEditing(false)
 	, bAllTextSelected(false)
 {
 }
@@ -21,7 +35,60 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
 
-	SBorder::Construct(SBorder::FArguments().Padding(FMargin(4.0f, 2.0f)));
+	Style = InArgs._Style ? InArgs._Style : &FCoreStyle::Get().GetWidgetStyle<FEditableTextBoxStyle>("NormalEditableTextBox");
+
+	SBorder::Construct(SBorder::FArguments()
+						   .BorderImage(this, &SEditableTextBox::GetStateBrush)
+						   .BorderBackgroundColor(Style->BackgroundColor)
+						   .Padding(Style->Padding));
+}
+
+const FSlateBrush* SEditableTextBox::GetStateBrush() const
+{
+	if (IsReadOnly())
+	{
+		return &Style->BackgroundImageReadOnly;
+	}
+	return HasKeyboardFocus() ? &Style->BackgroundImageFocused : &Style->BackgroundImageNormal;
+}
+
+FSlateFontInfo SEditableTextBox::GetFont() const
+{
+	return Font.IsSet() ? Font.Get() : Style->TextStyle.Font;
+}
+
+FVector2D SEditableTextBox::ComputeDesiredSize(float LayoutScaleMultiplier) const
+{
+	const FSlateFontMeasure& FontMeasure = FSlateApplication::Get().GetRenderer()->GetFontMeasureService().Get();
+	const FSlateFontInfo FontInfo = GetFont();
+	const FVector2D TextSize = FontMeasure.Measure(GetText().ToString(), FontInfo, LayoutScaleMultiplier) / static_cast<double>(LayoutScaleMultiplier);
+	const FVector2D HintSize = FontMeasure.Measure(GetHintText().ToString(), FontInfo, LayoutScaleMultiplier) / static_cast<double>(LayoutScaleMultiplier);
+	const FVector2D LineSize(std::max(TextSize.X, HintSize.X) + CaretWidth, std::max(TextSize.Y, HintSize.Y));
+	return LineSize + ChildSlot.GetPadding().GetDesiredSize();
+}
+
+int32 SEditableTextBox::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+{
+	const int32 BoxLayer = SBorder::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
+	const bool bEnabled = ShouldBeEnabled(bParentEnabled);
+	const FString Text = GetText().ToString();
+	const bool bShowHint = Text.IsEmpty();
+	const FSlateColor& TextColor = IsReadOnly() ? Style->ReadOnlyForegroundColor : HasKeyboardFocus() ? Style->FocusedForegroundColor
+																									  : Style->ForegroundColor;
+	FLinearColor Color = TextColor.GetColor(InWidgetStyle) * InWidgetStyle.GetColorAndOpacityTint();
+	if (bShowHint)
+	{
+		Color.A *= HintOpacity;
+	}
+	const FSlateFontInfo FontInfo = GetFont();
+	const FSlateFontMeasure& FontMeasure = FSlateApplication::Get().GetRenderer()->GetFontMeasureService().Get();
+	const FString Shown = bShowHint ? GetHintText().ToString() : Text;
+	const FMargin Padding = ChildSlot.GetPadding();
+	const FVector2D TextSize = FontMeasure.Measure(Shown, FontInfo, AllottedGeometry.Scale) / static_cast<double>(AllottedGeometry.Scale);
+	// The line is centred in the height inside the padding, as a single-line box centres its text.
+	const double Top = Padding.Top + (AllottedGeometry.GetLocalSize().Y - Padding.GetDesiredSize().Y - TextSize.Y) / 2.0;
+	FSlateDrawElement::MakeText(OutDrawElements, BoxLayer + 1, AllottedGeometry.ToPaintGeometry(FVector2D(Padding.Left, Top), TextSize), Shown, FontInfo, bEnabled ? ESlateDrawEffect::None : ESlateDrawEffect::DisabledEffect, Color);
+	return BoxLayer + 1;
 }
 
 FText SEditableTextBox::GetText() const

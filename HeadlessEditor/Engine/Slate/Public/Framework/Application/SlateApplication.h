@@ -32,6 +32,7 @@ public:
 	bool SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 	void ClearKeyboardFocus(const EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const override;
+	virtual float GetApplicationScale() const override { return Scale; }
 
 	/**
 	 * Sends a key press to the focused widget, then to each of its ancestors in turn until one handles
@@ -54,4 +55,5 @@ private:
 	static TSharedPtr<FSlateApplication> CurrentApplication;
 
 	TWeakPtr<SWidget> KeyboardFocusedWidget;
+	float Scale = 1.0f;
 };

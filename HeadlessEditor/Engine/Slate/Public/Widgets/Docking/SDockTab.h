@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
 
@@ -48,7 +49,10 @@ public:
 
 		/** What this tab shows. */
 		TSharedRef<SWidget> GetContent();
-		void SetContent(TSharedRef<SWidget> InContent);
+		virtual void SetContent(TSharedRef<SWidget> InContent) override;
+
+		/** The brush the docking area draws behind the tab's content. */
+		const FSlateBrush* GetContentAreaBrush() const;
 
 		ETabRole GetTabRole() const { return TabRole; }
 		ETabRole GetVisualTabRole() const { return TabRole; }
@@ -71,6 +75,9 @@ public:
 		void SetTabManager(const TSharedPtr<FTabManager>& InTabManager) { MyTabManager = InTabManager; }
 
 	private:
+		/** The tab style of the tab's role: major tabs have their own. */
+		const FDockTabStyle& GetCurrentStyle() const;
+
 		TSharedRef<SWidget> Content;
 		ETabRole TabRole;
 		TAttribute<FText> TabLabel;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
@@ -8,24 +10,13 @@
 /** Delegate that is executed when the check box state changes */
 DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState);
 
-namespace ESlateCheckBoxType
-{
-	enum Type : int
-	{
-		/** A traditional check box with check button and label (or other content) */
-		CheckBox,
-		/** A toggle button. You specify button content. */
-		ToggleButton,
-	};
-}
-
 /** A box the user can check and uncheck, with any content beside it. */
 class SLATE_API SCheckBox : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SCheckBox)
 		: _Content()
-		, _Style(&FCheckBoxStyle::GetDefault())
+		, _Style(&FCoreStyle::Get().GetWidgetStyle<FCheckBoxStyle>("Checkbox"))
 		, _IsChecked(ECheckBoxState::Unchecked)
 		, _HAlign(HAlign_Fill)
 		, _IsFocusable(true)
@@ -71,8 +62,31 @@ public:
 		/** Set the content of the check box. */
 		void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
 
+		/** A check box draws its box and mark, then its content beside them; a toggle button draws its state's brush behind the content. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+		virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+		virtual FSlateColor GetForegroundColor() const override;
+
+	protected:
+		/** The box beside the content with its padding, as high as the taller of the two. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
+
+		/** The mark to draw for the current state: a tick, a bar, or nothing. */
+		const FSlateBrush* OnGetCheckImage() const;
+		/** The box behind the mark. */
+		const FSlateBrush* OnGetBackgroundImage() const;
+		/** The padding between the box and the content. */
+		FMargin OnGetPadding() const;
+
 	private:
+		bool IsToggleButton() const;
+		/** The size of the box and its mark, side by side with the content. */
+		FVector2D GetCheckImageAreaSize() const;
+
+		const FCheckBoxStyle* Style;
+		TOptional<ESlateCheckBoxType::Type> CheckBoxTypeOverride;
 		TAttribute<ECheckBoxState> IsCheckboxChecked;
+		TAttribute<FMargin> PaddingOverride;
 		FOnCheckStateChanged OnCheckStateChanged;
 		bool bIsFocusable;
 };

@@ -20,7 +20,7 @@ class SComboRow : public STableRow<OptionType>
 {
 public:
 	SLATE_BEGIN_ARGS(SComboRow)
-		: _Style(&FTableRowStyle::GetDefault())
+		: _Style(&FAppStyle::Get().GetWidgetStyle<FTableRowStyle>("ComboBox.Row"))
 		, _Content()
 		, _Padding(FMargin(0))
 		{
@@ -49,11 +49,11 @@ public:
 
 	SLATE_BEGIN_ARGS(SComboBox)
 		: _Content()
-		, _ComboBoxStyle(&FComboBoxStyle::GetDefault())
+		, _ComboBoxStyle(&FAppStyle::Get().GetWidgetStyle<FComboBoxStyle>("ComboBox"))
 		, _ButtonStyle(nullptr)
-		, _ItemStyle(&FTableRowStyle::GetDefault())
-		, _ContentPadding(FMargin(4.0f, 2.0f))
-		, _ForegroundColor(FSlateColor::UseForeground())
+		, _ItemStyle(&FAppStyle::Get().GetWidgetStyle<FTableRowStyle>("ComboBox.Row"))
+		, _ContentPadding(_ComboBoxStyle->ContentPadding)
+		, _ForegroundColor(FSlateColor::UseStyle())
 		, _OptionsSource(nullptr)
 		, _OnSelectionChanged()
 		, _OnGenerateWidget()
@@ -101,6 +101,8 @@ public:
 				SNew(SVerticalBox) + SVerticalBox::Slot().MaxHeight(InArgs._MaxListHeight)[SAssignNew(ComboListView, SComboListType).ListItemsSource(InArgs._OptionsSource).OnGenerateRow(this, &SComboBox<OptionType>::GenerateMenuItemRow).OnSelectionChanged(this, &SComboBox<OptionType>::OnSelectionChanged_Internal).SelectionMode(ESelectionMode::Single)];
 
 			SComboButton::Construct(SComboButton::FArguments()
+										.ComboButtonStyle(&InArgs._ComboBoxStyle->ComboButtonStyle)
+										.ButtonStyle(InArgs._ButtonStyle)
 										.ButtonContent()[InArgs._Content.Widget]
 										.MenuContent()[ComboBoxMenuContent]
 										.ContentPadding(InArgs._ContentPadding)

@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 #include "Framework/SlateDelegates.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
@@ -11,7 +13,7 @@ class SLATE_API SEditableTextBox : public SBorder
 {
 public:
 	SLATE_BEGIN_ARGS(SEditableTextBox)
-		: _Style(&FEditableTextBoxStyle::GetDefault())
+		: _Style(&FCoreStyle::Get().GetWidgetStyle<FEditableTextBoxStyle>("NormalEditableTextBox"))
 		, _Text()
 		, _HintText()
 		, _Font()
@@ -64,12 +66,25 @@ public:
 		virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 
+		/** Draws the box for its state, then the text, or the hint while the text is empty. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+	protected:
+		/** A line of the text or the hint, whichever is wider, with room for the caret, inside the padding. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
+
 	private:
+		/** The style's background for the box's state. */
+		const FSlateBrush* GetStateBrush() const;
+		/** The font to draw with: the one set on the box, else the style's. */
+		FSlateFontInfo GetFont() const;
+
 		/** The user changed the text: it is shown, kept in an unbound text attribute and reported. */
 		void HandleUserEdit(const FText& InNewText);
 		/** The user committed the text: it is reported, then a bound text is read again. */
 		void HandleCommit(ETextCommit::Type CommitType);
 
+		const FEditableTextBoxStyle* Style;
 		TAttribute<FText> BoundText;
 		FText EditedText;
 		/** Whether the user has edited the text since it was last committed. */

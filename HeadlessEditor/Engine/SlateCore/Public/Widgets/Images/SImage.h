@@ -33,6 +33,13 @@ public:
 		void SetColorAndOpacity(const TAttribute<FSlateColor>& InColorAndOpacity) { ColorAndOpacity = InColorAndOpacity; }
 		void SetDesiredSizeOverride(TAttribute<TOptional<FVector2D>> InDesiredSizeOverride) { DesiredSizeOverride = MoveTemp(InDesiredSizeOverride); }
 
+		/** Draws the brush over the whole geometry, tinted by the image's colour and the brush's. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+	protected:
+		/** The brush's image size, or the override when one is set; nothing without a brush. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
+
 	private:
 		TAttribute<const FSlateBrush*> Image;
 		TAttribute<FSlateColor> ColorAndOpacity;
