@@ -6,6 +6,7 @@
 #include "WidgetRenderer.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SEditableText.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
@@ -32,6 +33,10 @@ namespace
 		if (IsOfType(*Widget, TEXT("SEditableTextBox")))
 		{
 			return StaticCastSharedRef<SEditableTextBox>(Widget)->GetText().ToString();
+		}
+		if (IsOfType(*Widget, TEXT("SEditableText")))
+		{
+			return StaticCastSharedRef<SEditableText>(Widget)->GetText().ToString();
 		}
 		return TOptional<FString>();
 	}

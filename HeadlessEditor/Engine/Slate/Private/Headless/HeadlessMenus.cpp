@@ -2,6 +2,8 @@
 
 #include "Framework/MultiBox/MenuBlocks.h"
 #include "Framework/MultiBox/MultiBox.h"
+#include "Layout/Children.h"
+#include "Widgets/SBoxPanel.h"
 
 namespace
 {
@@ -88,8 +90,16 @@ TArray<UE::Headless::FMenuLine> UE::Headless::ReadMenu(const TSharedRef<SWidget>
 
 TOptional<float> UE::Headless::GetMenuMaxHeight(const TSharedRef<SWidget>& MenuWidget)
 {
-	const TAttribute<float>& MaxHeight = AsMenuWidget(MenuWidget).GetMaxHeight();
-	return MaxHeight.IsSet() ? TOptional<float>(MaxHeight.Get()) : TOptional<float>();
+	// A capped menu holds its scroll box in a vertical box slot whose max height is the cap.
+	AsMenuWidget(MenuWidget);
+	const TSharedRef<SWidget> RootBorder = MenuWidget->GetChildren()->GetChildAt(0);
+	const TSharedRef<SWidget> MainWidget = RootBorder->GetChildren()->GetChildAt(0);
+	if (MainWidget->GetType() != TEXT("SVerticalBox"))
+	{
+		return TOptional<float>();
+	}
+	const float MaxHeight = StaticCastSharedRef<SVerticalBox>(MainWidget)->GetSlot(0).GetMaxSize();
+	return MaxHeight > 0.0f ? TOptional<float>(MaxHeight) : TOptional<float>();
 }
 
 bool UE::Headless::ClickMenuEntry(const TSharedRef<SWidget>& MenuWidget, const FString& Label)

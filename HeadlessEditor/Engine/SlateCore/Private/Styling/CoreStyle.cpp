@@ -93,6 +93,7 @@ namespace
 		Style.Set(TEXT("ButtonText"), NormalText);
 		Style.Set(TEXT("HintText"), FTextBlockStyle(NormalText).SetFont(FCoreStyle::GetDefaultFontStyle(TEXT("Italic"), 8)).SetColorAndOpacity(FSlateColor::UseSubduedForeground()));
 
+		Style.Set(TEXT("NormalEditableText"), FEditableTextStyle().SetBackgroundImageSelected(FSlateColorBrush(FStyleColors::Highlight)).SetCaretImage(FSlateColorBrush(FStyleColors::White)));
 		Style.Set(TEXT("NormalEditableTextBox"), FEditableTextBoxStyle().SetTextStyle(NormalText).SetBackgroundImageNormal(FSlateRoundedBoxBrush(FStyleColors::Input, InputFocusRadius, FStyleColors::InputOutline, InputFocusThickness)).SetBackgroundImageHovered(FSlateRoundedBoxBrush(FStyleColors::Input, InputFocusRadius, FStyleColors::Hover, InputFocusThickness)).SetBackgroundImageFocused(FSlateRoundedBoxBrush(FStyleColors::Input, InputFocusRadius, FStyleColors::Primary, InputFocusThickness)).SetBackgroundImageReadOnly(FSlateRoundedBoxBrush(FStyleColors::Header, InputFocusRadius, FStyleColors::InputOutline, InputFocusThickness)).SetFont(FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 10)).SetPadding(FMargin(8.0f, 3.0f, 8.0f, 4.0f)).SetForegroundColor(FStyleColors::Foreground).SetBackgroundColor(FStyleColors::White).SetReadOnlyForegroundColor(FSlateColor::UseForeground()).SetFocusedForegroundColor(FStyleColors::White));
 	}
 

@@ -10,6 +10,7 @@ const FName FButtonStyle::TypeName(TEXT("FButtonStyle"));
 const FName FCheckBoxStyle::TypeName(TEXT("FCheckBoxStyle"));
 const FName FComboButtonStyle::TypeName(TEXT("FComboButtonStyle"));
 const FName FComboBoxStyle::TypeName(TEXT("FComboBoxStyle"));
+const FName FEditableTextStyle::TypeName(TEXT("FEditableTextStyle"));
 const FName FEditableTextBoxStyle::TypeName(TEXT("FEditableTextBoxStyle"));
 const FName FScrollBoxStyle::TypeName(TEXT("FScrollBoxStyle"));
 const FName FTableRowStyle::TypeName(TEXT("FTableRowStyle"));
@@ -119,6 +120,23 @@ void FComboBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 const FComboBoxStyle& FComboBoxStyle::GetDefault()
 {
 	static const FComboBoxStyle Default;
+	return Default;
+}
+
+FEditableTextStyle::FEditableTextStyle()
+	: Font(FStyleDefaults::GetFontInfo(9))
+	, ColorAndOpacity(FSlateColor::UseForeground())
+{
+}
+
+void FEditableTextStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&BackgroundImageSelected, &CaretImage});
+}
+
+const FEditableTextStyle& FEditableTextStyle::GetDefault()
+{
+	static const FEditableTextStyle Default;
 	return Default;
 }
 

@@ -517,6 +517,57 @@ struct SLATECORE_API FComboBoxStyle : public FSlateWidgetStyle
 	}
 };
 
+/** How editable text draws itself. */
+struct SLATECORE_API FEditableTextStyle : public FSlateWidgetStyle
+{
+	FEditableTextStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FEditableTextStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Font family and size to be used when displaying this text. */
+	FSlateFontInfo Font;
+	FEditableTextStyle& SetFont(const FSlateFontInfo& InFont)
+	{
+		Font = InFont;
+		return *this;
+	}
+
+	/** The color and opacity of this text */
+	FSlateColor ColorAndOpacity;
+	FEditableTextStyle& SetColorAndOpacity(const FSlateColor& InColorAndOpacity)
+	{
+		ColorAndOpacity = InColorAndOpacity;
+		return *this;
+	}
+
+	/** Background image for the selected text */
+	FSlateBrush BackgroundImageSelected;
+	FEditableTextStyle& SetBackgroundImageSelected(const FSlateBrush& InBackgroundImageSelected)
+	{
+		BackgroundImageSelected = InBackgroundImageSelected;
+		return *this;
+	}
+
+	/** Background image for the composing text */
+	FSlateBrush BackgroundImageComposing;
+	FEditableTextStyle& SetBackgroundImageComposing(const FSlateBrush& InBackgroundImageComposing)
+	{
+		BackgroundImageComposing = InBackgroundImageComposing;
+		return *this;
+	}
+
+	/** Image brush used for the caret */
+	FSlateBrush CaretImage;
+	FEditableTextStyle& SetCaretImage(const FSlateBrush& InCaretImage)
+	{
+		CaretImage = InCaretImage;
+		return *this;
+	}
+};
+
 /** How an editable text box draws itself. */
 struct SLATECORE_API FEditableTextBoxStyle : public FSlateWidgetStyle
 {

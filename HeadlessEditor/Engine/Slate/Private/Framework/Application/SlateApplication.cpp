@@ -47,7 +47,8 @@ bool FSlateApplication::SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidg
 	{
 		ClearKeyboardFocus(ReasonFocusIsChanging);
 		KeyboardFocusedWidget = OptionalWidgetToFocus;
-		OptionalWidgetToFocus->OnFocusReceived(OptionalWidgetToFocus->GetPaintSpaceGeometry(), FFocusEvent(ReasonFocusIsChanging, 0));
+		// A widget may pass the focus on, as a text box gives it to the text inside.
+		ProcessReply(OptionalWidgetToFocus->OnFocusReceived(OptionalWidgetToFocus->GetPaintSpaceGeometry(), FFocusEvent(ReasonFocusIsChanging, 0)));
 	}
 	return true;
 }
@@ -67,17 +68,31 @@ TSharedPtr<SWidget> FSlateApplication::GetKeyboardFocusedWidget() const
 	return KeyboardFocusedWidget.Pin();
 }
 
-bool FSlateApplication::RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler) const
+bool FSlateApplication::RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler)
 {
 	// The focus path runs from the focused widget up through its parents, as in a window.
 	for (TSharedPtr<SWidget> Widget = KeyboardFocusedWidget.Pin(); Widget.IsValid(); Widget = Widget->GetParentWidget())
 	{
-		if (Handler(*Widget).IsEventHandled())
+		const FReply Reply = Handler(*Widget);
+		if (Reply.IsEventHandled())
 		{
+			ProcessReply(Reply);
 			return true;
 		}
 	}
 	return false;
+}
+
+void FSlateApplication::ProcessReply(const FReply& Reply)
+{
+	if (Reply.ShouldReleaseUserFocus())
+	{
+		ClearKeyboardFocus(Reply.GetFocusCause());
+	}
+	else if (Reply.ShouldSetUserFocus())
+	{
+		SetKeyboardFocus(Reply.GetUserFocusRecepient(), Reply.GetFocusCause());
+	}
 }
 
 bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)

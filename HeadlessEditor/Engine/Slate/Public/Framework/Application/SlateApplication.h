@@ -50,7 +50,9 @@ private:
 	FSlateApplication() = default;
 
 	/** Offers an event to the focused widget, then to each ancestor, until one handles it. */
-	bool RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler) const;
+	bool RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler);
+	/** Carries out the focus change a reply asks for. */
+	void ProcessReply(const FReply& Reply);
 
 	static TSharedPtr<FSlateApplication> CurrentApplication;
 

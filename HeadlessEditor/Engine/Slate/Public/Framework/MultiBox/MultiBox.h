@@ -10,6 +10,7 @@
 
 class FMultiBox;
 class ISlateStyle;
+class SMultiBoxWidget;
 
 /** One element of a menu or toolbar: an entry, a heading, a separator. */
 class SLATE_API FMultiBlock : public TSharedFromThis<FMultiBlock>
@@ -43,7 +44,7 @@ private:
 class SLATE_API FMultiBox : public TSharedFromThis<FMultiBox>
 {
 public:
-	DECLARE_DELEGATE_OneParam(FOnMakeMultiBoxBuilderOverride, const TSharedRef<FMultiBox>&);
+	DECLARE_DELEGATE_TwoParams(FOnMakeMultiBoxBuilderOverride, const TSharedRef<FMultiBox>&, const TSharedRef<SMultiBoxWidget>&);
 
 	static TSharedRef<FMultiBox> Create(const EMultiBoxType InType, bool bInShouldCloseWindowAfterMenuSelection);
 
@@ -90,7 +91,9 @@ public:
 		bool GetSearchable() const { return bSearchable; }
 
 		void SetMaxHeight(TAttribute<float> InMaxHeight) { MaxHeight = InMaxHeight; }
-		const TAttribute<float>& GetMaxHeight() const { return MaxHeight; }
+
+		/** Builds this MultiBox widget up from the MultiBox associated with it */
+		void BuildMultiBoxWidget();
 
 	private:
 		TSharedPtr<FMultiBox> MultiBox;

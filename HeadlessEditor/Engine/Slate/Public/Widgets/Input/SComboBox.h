@@ -142,7 +142,7 @@ public:
 	protected:
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override
 		{
-			if (IsInteractable())
+			if (this->IsInteractable())
 			{
 				const FKey Key = InKeyEvent.GetKey();
 				if (Key == EKeys::Up || Key == EKeys::Down)
@@ -157,6 +157,10 @@ public:
 			}
 			return SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
 		}
+
+		virtual bool SupportsKeyboardFocus() const override { return this->bIsFocusable; }
+
+		virtual bool IsInteractable() const override { return this->IsEnabled(); }
 
 		/** Opening the drop-down tells the owner first; closing it keeps the selection. */
 		virtual FReply OnButtonClicked() override

@@ -6,9 +6,13 @@
 #include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/Input/SEditableText.h"
 #include "Widgets/Layout/SBorder.h"
 
-/** A single line of text the user can edit, in a box. */
+class SBox;
+class SHorizontalBox;
+
+/** Editable text box widget */
 class SLATE_API SEditableTextBox : public SBorder
 {
 public:
@@ -17,10 +21,14 @@ public:
 		, _Text()
 		, _HintText()
 		, _Font()
+		, _ForegroundColor()
+		, _ReadOnlyForegroundColor()
+		, _FocusedForegroundColor()
 		, _IsReadOnly(false)
 		, _SelectAllTextWhenFocused(false)
 		, _RevertTextOnEscape(false)
 		, _ClearKeyboardFocusOnCommit(true)
+		, _MinDesiredWidth(0.0f)
 		{
 		}
 		/** The styling of the textbox */
@@ -31,6 +39,12 @@ public:
 		SLATE_ATTRIBUTE(FText, HintText)
 		/** Font color and opacity (overrides Style) */
 		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+		/** Text color and opacity (overrides Style) */
+		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
+		/** Text color and opacity when read-only (overrides Style) */
+		SLATE_ATTRIBUTE(FSlateColor, ReadOnlyForegroundColor)
+		/** Text color and opacity when this box has keyboard focus (overrides Style) */
+		SLATE_ATTRIBUTE(FSlateColor, FocusedForegroundColor)
 		/** Sets whether this text box can actually be modified interactively by the user */
 		SLATE_ATTRIBUTE(bool, IsReadOnly)
 		/** Whether to select all text when the user clicks to give focus on the widget */
@@ -39,65 +53,104 @@ public:
 		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
 		/** Whether to clear keyboard focus when pressing enter to commit changes */
 		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
+		/** Padding between the box/border and the text widget inside (overrides Style) */
+		SLATE_ATTRIBUTE(FMargin, Padding)
 		/** Called whenever the text is changed programmatically or interactively by the user */
 		SLATE_EVENT(FOnTextChanged, OnTextChanged)
 		/** Called whenever the text is committed.  This happens when the user presses enter or the text box loses focus. */
 		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+		/** Minimum width that a text block should be */
+		SLATE_ATTRIBUTE(float, MinDesiredWidth)
 		SLATE_END_ARGS()
 
 		SEditableTextBox();
 		void Construct(const FArguments& InArgs);
 
-		/** Returns the text string shown: the bound text, or what the user typed while it is being edited. */
-		FText GetText() const;
+		/**
+		 * Returns the text string
+		 *
+		 * @return  Text string
+		 */
+		FText GetText() const { return EditableText->GetText(); }
 
-		/** Sets the text, as a value or a binding; it does not fire OnTextChanged. */
+		/**
+		 * Sets the text string currently being edited
+		 *
+		 * @param  InNewText  The new text string
+		 */
 		void SetText(const TAttribute<FText>& InNewText);
 
-		FText GetHintText() const { return HintText.Get(); }
-		void SetHintText(const TAttribute<FText>& InHintText) { HintText = InHintText; }
-		void SetFont(const TAttribute<FSlateFontInfo>& InFont) { Font = InFont; }
-		void SetIsReadOnly(TAttribute<bool> InIsReadOnly) { ReadOnly = MoveTemp(InIsReadOnly); }
-		bool IsReadOnly() const { return ReadOnly.Get(false); }
+		/** Returns the Hint text string */
+		FText GetHintText() const { return EditableText->GetHintText(); }
 
-		virtual bool SupportsKeyboardFocus() const override { return true; }
+		/** See the HintText attribute */
+		void SetHintText(const TAttribute<FText>& InHintText);
+
+		/** See the IsReadOnly attribute */
+		void SetIsReadOnly(TAttribute<bool> InIsReadOnly);
+
+		/** Return whether a RO editable text box */
+		bool IsReadOnly() const { return EditableText->IsTextReadOnly(); }
+
+		/**
+		 * Sets the font used to draw the text
+		 *
+		 * @param  InFont	The new font to use
+		 */
+		void SetFont(const TAttribute<FSlateFontInfo>& InFont);
+
+		// SWidget overrides
+		virtual bool SupportsKeyboardFocus() const override;
+		virtual bool HasKeyboardFocus() const override;
 		virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent) override;
-		virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
-		virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 
-		/** Draws the box for its state, then the text, or the hint while the text is empty. */
-		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
-
 	protected:
-		/** A line of the text or the hint, whichever is wider, with room for the caret, inside the padding. */
-		virtual FVector2D ComputeDesiredSize(float) const override;
+		/** Callback for the editable text's OnTextChanged event */
+		void OnEditableTextChanged(const FText& InText);
+
+		/** Callback when the editable text is committed. */
+		void OnEditableTextCommitted(const FText& InText, ETextCommit::Type InCommitType);
+
+		/** Style shared between all editable text boxes. */
+		const FEditableTextBoxStyle* Style;
+
+		/** Box widget that adds padding around the editable text */
+		TSharedPtr<SBox> PaddingBox;
+
+		/** Editable text widget */
+		TSharedPtr<SEditableText> EditableText;
+
+		/** Padding (overrides style) */
+		TAttribute<FMargin> PaddingOverride;
+
+		/** Font (overrides style) */
+		TAttribute<FSlateFontInfo> FontOverride;
+
+		/** Foreground color (overrides style) */
+		TAttribute<FSlateColor> ForegroundColorOverride;
+
+		/** Read-only foreground color (overrides style) */
+		TAttribute<FSlateColor> ReadOnlyForegroundColorOverride;
+
+		/** Focused foreground color (overrides style) */
+		TAttribute<FSlateColor> FocusedForegroundColorOverride;
+
+		/** Horizontal box that holds the editable text. */
+		TSharedPtr<SHorizontalBox> Box;
+
+		/** Called when the text is changed interactively */
+		FOnTextChanged OnTextChanged;
+
+		/** Called when the user commits their change to the editable text control */
+		FOnTextCommitted OnTextCommitted;
 
 	private:
+		FMargin DeterminePadding() const;
+		FSlateFontInfo DetermineFont() const;
+		FSlateColor DetermineBackgroundColor() const;
+		FSlateColor DetermineForegroundColor() const;
+
 		/** The style's background for the box's state. */
-		const FSlateBrush* GetStateBrush() const;
-		/** The font to draw with: the one set on the box, else the style's. */
-		FSlateFontInfo GetFont() const;
-
-		/** The user changed the text: it is shown, kept in an unbound text attribute and reported. */
-		void HandleUserEdit(const FText& InNewText);
-		/** The user committed the text: it is reported, then a bound text is read again. */
-		void HandleCommit(ETextCommit::Type CommitType);
-
-		const FEditableTextBoxStyle* Style;
-		TAttribute<FText> BoundText;
-		FText EditedText;
-		/** Whether the user has edited the text since it was last committed. */
-		bool bIsEditing;
-		/** Whether the whole text is selected, so that the next character replaces it. */
-		bool bAllTextSelected;
-		TAttribute<FText> HintText;
-		TAttribute<FSlateFontInfo> Font;
-		TAttribute<bool> ReadOnly;
-		TAttribute<bool> SelectAllTextWhenFocused;
-		TAttribute<bool> RevertTextOnEscape;
-		TAttribute<bool> ClearKeyboardFocusOnCommit;
-		FText TextAtEditStart;
-		FOnTextChanged OnTextChanged;
-		FOnTextCommitted OnTextCommitted;
+		const FSlateBrush* GetBorderImage() const;
 };

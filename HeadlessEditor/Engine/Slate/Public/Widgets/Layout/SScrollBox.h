@@ -39,7 +39,7 @@ public:
 
 		FScopedWidgetSlotArguments AddSlot();
 		void ClearChildren() { Children.Empty(); }
-		EOrientation GetOrientation() const { return Orientation; }
+		EOrientation GetOrientation() { return Orientation; }
 
 		/** The engine nests the slots in a scroll panel beside a scroll bar; here the slots are the children. */
 		virtual FChildren* GetChildren() override { return &Children; }
