@@ -20,7 +20,7 @@ namespace
 		{
 			return Block.GetActionList().IsValid() ? Block.GetActionList()->GetActionForCommand(Block.GetAction()) : nullptr;
 		}
-		return Block.GetDirectActions();
+		return &Block.GetDirectActions();
 	}
 
 	UE::Headless::FMenuLine ReadEntry(const FMenuEntryBlock& Entry)
@@ -45,7 +45,7 @@ namespace
 		}
 		const FUIAction* Action = FindAction(Entry);
 		// As the engine's menu entry: a command asks its list, which enables commands it has no action for.
-		Line.bEnabled = Command.IsValid() && Entry.GetActionList().IsValid() ? Entry.GetActionList()->CanExecuteAction(Command.ToSharedRef()) : Entry.GetDirectActions()->CanExecute();
+		Line.bEnabled = Command.IsValid() && Entry.GetActionList().IsValid() ? Entry.GetActionList()->CanExecuteAction(Command.ToSharedRef()) : Entry.GetDirectActions().CanExecute();
 		Line.CheckState = Action ? Action->GetCheckState() : ECheckBoxState::Unchecked;
 		return Line;
 	}

@@ -19,8 +19,3 @@ int16 FSlateFontCache::GetBaseline(const FSlateFontInfo& InFontInfo, float FontS
 {
 	return -FTextShaper::Get().GetDescent(InFontInfo, FontScale);
 }
-
-void FSlateFontCache::FlushCache()
-{
-	// Pango keeps its own font caches; nothing shaped here outlives a measure.
-}

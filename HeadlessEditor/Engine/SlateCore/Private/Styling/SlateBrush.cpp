@@ -46,9 +46,9 @@ FSlateBrush::FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InRes
 {
 }
 
-FSlateResourceHandle FSlateBrush::GetRenderingResource(FVector2f LocalSize, float DrawScale) const
+const FSlateResourceHandle& FSlateBrush::GetRenderingResource(FVector2D LocalSize, float DrawScale) const
 {
-	UpdateRenderingResource(LocalSize, DrawScale);
+	UpdateRenderingResource(FVector2f(LocalSize), DrawScale);
 	return ResourceHandle;
 }
 

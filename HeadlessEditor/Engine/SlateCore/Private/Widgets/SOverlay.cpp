@@ -48,17 +48,24 @@ SOverlay::FScopedWidgetSlotArguments SOverlay::AddSlot(int32 ZOrder)
 	return FScopedWidgetSlotArguments{MakeUnique<FOverlaySlot>(ZOrder), Children, InsertIndex};
 }
 
-bool SOverlay::RemoveSlot(int32 ZOrder)
+void SOverlay::RemoveSlot(int32 ZOrder)
 {
+	if (ZOrder == INDEX_NONE)
+	{
+		if (Children.Num() > 0)
+		{
+			Children.RemoveAt(Children.Num() - 1);
+		}
+		return;
+	}
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
 		if (Children[Index].ZOrder == ZOrder)
 		{
 			Children.RemoveAt(Index);
-			return true;
+			return;
 		}
 	}
-	return false;
 }
 
 void SOverlay::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const

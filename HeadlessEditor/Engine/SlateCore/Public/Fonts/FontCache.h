@@ -27,9 +27,6 @@ public:
 	/** Where the baseline lies above the bottom of a line: minus the font's descent, in pixels. */
 	int16 GetBaseline(const FSlateFontInfo& InFontInfo, float FontScale) const;
 
-	/** Forgets what was shaped; the next measures shape again. */
-	void FlushCache();
-
 private:
 	FSlateFontCache(const FSlateFontCache&);
 	FSlateFontCache& operator=(const FSlateFontCache&);

@@ -86,7 +86,6 @@ public:
 	virtual int32 Num() const override { return Children.Num(); }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override { return Children[Index]->GetWidget(); }
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const override { return Children[Index]->GetWidget(); }
-	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override { return *Children[ChildIndex]; }
 	bool IsValidIndex(int32 Index) const { return Children.IsValidIndex(Index); }
 	void Reserve(int32 NumToReserve) { Children.Reserve(NumToReserve); }
 
@@ -120,13 +119,13 @@ public:
 		Children.RemoveAt(Index);
 	}
 
-	void Empty()
+	void Empty(int32 Slack = 0)
 	{
 		for (TUniquePtr<SlotType>& Slot : Children)
 		{
 			Slot->DetachWidget();
 		}
-		Children.Empty();
+		Children.Empty(Slack);
 	}
 
 	SlotType& operator[](int32 Index) { return *Children[Index]; }
@@ -164,6 +163,9 @@ public:
 		TPanelChildren<SlotType>& Children;
 		int32 Index;
 	};
+
+protected:
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override { return *Children[ChildIndex]; }
 
 private:
 	TArray<TUniquePtr<SlotType>> Children;

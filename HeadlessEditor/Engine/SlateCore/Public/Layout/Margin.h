@@ -39,7 +39,7 @@ struct FMargin
 		, Bottom(InBottom)
 	{
 	}
-	FMargin(const FVector2D& InVector)
+	FMargin(const FVector2D InVector)
 		: Left(static_cast<float>(InVector.X))
 		, Top(static_cast<float>(InVector.Y))
 		, Right(static_cast<float>(InVector.X))

@@ -41,7 +41,7 @@ struct FSlateBoxPayload : public FSlateDataPayload, public FSlateTintableElement
 		Margin = InBrush->GetMargin();
 		Tiling = InBrush->GetTiling();
 		DrawType = InBrush->GetDrawType();
-		const FSlateResourceHandle Handle = InBrush->GetRenderingResource(FVector2f(LocalSize), DrawScale);
+		const FSlateResourceHandle& Handle = InBrush->GetRenderingResource(LocalSize, DrawScale);
 		ResourceProxy = Handle.IsValid() ? Handle.GetResourceProxy() : nullptr;
 	}
 };

@@ -173,7 +173,7 @@ struct SLATECORE_API FSlateBrush
 	bool IsSet() const { return bIsSet; }
 
 	/** The renderer's handle on the brush's texture, loaded the first time it is asked for. */
-	FSlateResourceHandle GetRenderingResource(FVector2f LocalSize, float DrawScale) const;
+	const FSlateResourceHandle& GetRenderingResource(FVector2D LocalSize, float DrawScale) const;
 	const FSlateResourceHandle& GetRenderingResource() const;
 
 	/** The name of the rendering resource to use: for an image brush, the image file's path. */

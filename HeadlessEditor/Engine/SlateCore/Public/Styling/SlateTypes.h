@@ -53,7 +53,7 @@ struct SLATECORE_API FTextBlockStyle : public FSlateWidgetStyle
 		Font = FSlateFontInfo(InCompositeFont, InSize, InTypefaceFontName);
 		return *this;
 	}
-	FTextBlockStyle& SetFontSize(int32 InSize)
+	FTextBlockStyle& SetFontSize(uint16 InSize)
 	{
 		Font.Size = InSize;
 		return *this;

@@ -9,7 +9,7 @@ class SLATECORE_API FStyleDefaults
 {
 public:
 	static float GetFloat() { return DefaultFloat; }
-	static const FVector2D& GetVector2D() { return DefaultFVector2D; }
+	static const FVector2D GetVector2D() { return DefaultFVector2D; }
 	static const FLinearColor& GetColor() { return DefaultColor; }
 	static const FSlateColor& GetSlateColor() { return DefaultSlateColor; }
 	static const FMargin& GetMargin() { return DefaultMargin; }

@@ -44,7 +44,8 @@ public:
 	/** Adds a slot at the given z-order; INDEX_NONE puts it in front of all others. */
 	FScopedWidgetSlotArguments AddSlot(int32 ZOrder = INDEX_NONE);
 	int32 GetNumWidgets() const { return Children.Num(); }
-	bool RemoveSlot(int32 ZOrder);
+	/** Removes the slot at the given z-order; INDEX_NONE removes the front one. */
+	void RemoveSlot(int32 ZOrder = INDEX_NONE);
 	void ClearChildren() { Children.Empty(); }
 
 	virtual FChildren* GetChildren() override { return &Children; }

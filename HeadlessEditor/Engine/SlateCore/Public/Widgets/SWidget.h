@@ -147,9 +147,6 @@ protected:
 	/** Runs the prepass on each child that is not collapsed. */
 	void Prepass_ChildLoop(float InLayoutScaleMultiplier, FChildren* MyChildren);
 
-	/** The tooltip shown when the widget is hovered. */
-	TAttribute<TSharedPtr<IToolTip>> ToolTip;
-
 private:
 	/** Makes the draw elements of the widget and its content, from layer LayerId up. @return the highest layer used */
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const = 0;
@@ -164,6 +161,8 @@ private:
 	TAttribute<EVisibility> VisibilityAttribute;
 	/** Text for a tooltip made on first request, when the application is there to make it. */
 	TAttribute<FText> PendingToolTipText;
+	/** The tooltip shown when the widget is hovered. */
+	TAttribute<TSharedPtr<IToolTip>> ToolTip;
 	FName Tag;
 	FName TypeOfWidget;
 	/** Where the widget was last painted. */

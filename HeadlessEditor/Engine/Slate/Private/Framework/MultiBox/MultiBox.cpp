@@ -24,15 +24,23 @@ FMultiBlock::FMultiBlock(const FUIAction& InAction, FName InExtensionHook, EMult
 {
 }
 
-FMultiBox::FMultiBox(const EMultiBoxType InType, bool bInShouldCloseWindowAfterMenuSelection)
+const FMultiBoxCustomization FMultiBoxCustomization::None(NAME_None);
+
+FMultiBox::FMultiBox(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection)
 	: Type(InType)
+	, Customization(InCustomization)
 	, bShouldCloseWindowAfterMenuSelection(bInShouldCloseWindowAfterMenuSelection)
 {
 }
 
-TSharedRef<FMultiBox> FMultiBox::Create(const EMultiBoxType InType, bool bInShouldCloseWindowAfterMenuSelection)
+TSharedRef<FMultiBox> FMultiBox::Create(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection)
 {
-	return MakeShareable(new FMultiBox(InType, bInShouldCloseWindowAfterMenuSelection));
+	return MakeShareable(new FMultiBox(InType, InCustomization, bInShouldCloseWindowAfterMenuSelection));
+}
+
+FName FMultiBox::GetCustomizationName() const
+{
+	return Customization.GetCustomizationName();
 }
 
 void FMultiBox::AddMultiBlock(TSharedRef<const FMultiBlock> InBlock)

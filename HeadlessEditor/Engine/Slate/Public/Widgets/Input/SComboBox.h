@@ -162,6 +162,9 @@ public:
 
 		virtual bool IsInteractable() const override { return this->IsEnabled(); }
 
+	private:
+		typedef SListView<OptionType> SComboListType;
+
 		/** Opening the drop-down tells the owner first; closing it keeps the selection. */
 		virtual FReply OnButtonClicked() override
 		{
@@ -171,15 +174,6 @@ public:
 			}
 			return SComboButton::OnButtonClicked();
 		}
-
-		/** The item style to use. */
-		const FTableRowStyle* ItemStyle = nullptr;
-
-		/** The padding around each menu row */
-		FMargin MenuRowPadding;
-
-	private:
-		typedef SListView<OptionType> SComboListType;
 
 		/** A row of the list was chosen, or the selection was set. */
 		void OnSelectionChanged_Internal(NullableOptionType ProposedSelection, ESelectInfo::Type SelectInfo)
@@ -213,6 +207,12 @@ public:
 			const TSharedRef<SWidget> Content = OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(InItem) : SNullWidget::NullWidget;
 			return SNew(SComboRow<OptionType>, OwnerTable).Style(ItemStyle).Padding(MenuRowPadding)[Content];
 		}
+
+		/** The item style to use. */
+		const FTableRowStyle* ItemStyle = nullptr;
+
+		/** The padding around each menu row */
+		FMargin MenuRowPadding;
 
 		const TArray<OptionType>* OptionsSource = nullptr;
 		NullableOptionType SelectedItem = TListTypeTraits<OptionType>::MakeNullPtr();

@@ -68,7 +68,7 @@ public:
 		bool IsItemSelected(const ItemType& InItem) const { return SelectedItems.Contains(InItem); }
 
 		/** Selects the item without telling the owner, as the owner's own initial selection. */
-		void Private_SetItemSelection(ItemType TheItem, bool bShouldBeSelected)
+		void Private_SetItemSelection(ItemType TheItem, bool bShouldBeSelected, bool bWasUserDirected = false)
 		{
 			SelectedItems.Remove(TheItem);
 			if (bShouldBeSelected)

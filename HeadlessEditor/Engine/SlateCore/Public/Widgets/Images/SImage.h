@@ -30,7 +30,8 @@ public:
 		void Construct(const FArguments& InArgs);
 
 		void SetImage(TAttribute<const FSlateBrush*> InImage) { Image = MoveTemp(InImage); }
-		void SetColorAndOpacity(const TAttribute<FSlateColor>& InColorAndOpacity) { ColorAndOpacity = InColorAndOpacity; }
+		void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
+		void SetColorAndOpacity(FLinearColor InColorAndOpacity) { ColorAndOpacity = FSlateColor(InColorAndOpacity); }
 		void SetDesiredSizeOverride(TAttribute<TOptional<FVector2D>> InDesiredSizeOverride) { DesiredSizeOverride = MoveTemp(InDesiredSizeOverride); }
 
 		/** Draws the brush over the whole geometry, tinted by the image's colour and the brush's. */
