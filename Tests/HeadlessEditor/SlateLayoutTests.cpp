@@ -12,6 +12,7 @@
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/Layout/SWrapBox.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/SOverlay.h"
@@ -259,4 +260,36 @@ TEST_F(SlateLayout, ImageAsksForItsBrushSize)
 	Image->SetDesiredSizeOverride(FVector2D(8.0, 8.0));
 	Image->SlatePrepass(1.0f);
 	EXPECT_EQ(Image->GetDesiredSize(), FVector2D(8.0, 8.0));
+}
+
+TEST_F(SlateLayout, ScrollBoxMakesRoomForItsBarOnlyWhenTheContentIsLonger)
+{
+	TArray<TSharedRef<SBox>> Blocks;
+	const TSharedRef<SScrollBox> Scroll = SNew(SScrollBox);
+	for (int32 Index = 0; Index < 2; ++Index)
+	{
+		Blocks.Add(Block(50.0f, 30.0f));
+		Scroll->AddSlot()[Blocks.Last()];
+	}
+	FSlateWindowElementList Elements(nullptr);
+	FWidgetRenderer::PaintWidget(Scroll, FVector2D(100.0, 100.0), Elements);
+	EXPECT_EQ(Place(Blocks[0]->GetPaintSpaceGeometry()), "0,0 100x30");
+	EXPECT_EQ(Place(Blocks[1]->GetPaintSpaceGeometry()), "0,30 100x30");
+
+	// Longer content: the bar, its thickness and its padding, takes room beside the content.
+	for (int32 Index = 2; Index < 10; ++Index)
+	{
+		Blocks.Add(Block(50.0f, 30.0f));
+		Scroll->AddSlot()[Blocks.Last()];
+	}
+	FWidgetRenderer::PaintWidget(Scroll, FVector2D(100.0, 100.0), Elements);
+	const FScrollBoxStyle& Style = FCoreStyle::Get().GetWidgetStyle<FScrollBoxStyle>("ScrollBox");
+	const double ContentWidth = 100.0 - Style.BarThickness - 4.0;
+	EXPECT_EQ(Blocks[0]->GetPaintSpaceGeometry().GetLocalSize().X, ContentWidth);
+	EXPECT_EQ(Scroll->GetScrollOffsetOfEnd(), 300.0f - 99.0f);
+
+	// Scrolled to its end, the last slot ends at the bottom of the view (a pixel above the box's edge).
+	Scroll->ScrollToEnd();
+	FWidgetRenderer::PaintWidget(Scroll, FVector2D(100.0, 100.0), Elements);
+	EXPECT_EQ(Place(Blocks.Last()->GetPaintSpaceGeometry()), FString::Printf(TEXT("0,69 %gx30"), ContentWidth).ToUtf8());
 }

@@ -286,6 +286,36 @@ namespace
 	}
 }
 
+namespace
+{
+	/**
+	 * Widgets that follow what they were given in the last frame (wrapping text, wrap boxes, scroll
+	 * bars) take a few frames to settle; an editor paints frames all the time, so this many is plenty.
+	 */
+	const int32 MaxFramesToSettle = 8;
+
+	/** Where a frame drew an element: frames that draw the same places have settled. */
+	struct FElementPlace
+	{
+		EElementType Type;
+		int32 Layer;
+		FVector2D Position;
+		FVector2D Size;
+
+		bool operator==(const FElementPlace& Other) const { return Type == Other.Type && Layer == Other.Layer && Position == Other.Position && Size == Other.Size; }
+	};
+
+	TArray<FElementPlace> GetElementPlaces(const FSlateWindowElementList& Elements)
+	{
+		TArray<FElementPlace> Places;
+		for (const FSlateDrawElement& Element : Elements.GetUncachedDrawElements())
+		{
+			Places.Add({Element.GetElementType(), Element.GetLayer(), Element.GetPosition(), Element.GetLocalSize()});
+		}
+		return Places;
+	}
+}
+
 FColor FRenderedImage::GetPixel(int32 X, int32 Y) const
 {
 	check(X >= 0 && X < Width && Y >= 0 && Y < Height);
@@ -313,12 +343,19 @@ void FWidgetRenderer::PaintWidget(const TSharedRef<SWidget>& Widget, const FVect
 	const FGeometry WindowGeometry = FGeometry::MakeRoot(Size, FSlateLayoutTransform());
 	const FSlateRect WindowRect(0.0f, 0.0f, static_cast<float>(Size.X), static_cast<float>(Size.Y));
 	FHittestGrid HittestGrid;
-	for (int32 Frame = 0; Frame < 2; ++Frame)
+	TArray<FElementPlace> PreviousPlaces;
+	for (int32 Frame = 0; Frame < MaxFramesToSettle; ++Frame)
 	{
 		OutElements.ResetElementList();
 		Widget->SlatePrepass(1.0f);
 		const FPaintArgs PaintArgs(nullptr, HittestGrid, FVector2D(0.0, 0.0), Frame / 60.0, 1.0f / 60.0f);
 		Widget->Paint(PaintArgs, WindowGeometry, WindowRect, OutElements, 0, WindowStyle, true);
+		TArray<FElementPlace> Places = GetElementPlaces(OutElements);
+		if (Frame > 0 && Places == PreviousPlaces)
+		{
+			return;
+		}
+		PreviousPlaces = MoveTemp(Places);
 	}
 }
 

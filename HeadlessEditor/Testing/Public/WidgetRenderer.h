@@ -29,9 +29,10 @@ class HEADLESSTESTING_API FWidgetRenderer
 {
 public:
 	/**
-	 * Lays the widget out as the root of a window of the given size and paints it. It is painted
-	 * twice, as two frames of the editor: widgets that follow the room they were given (wrapping
-	 * text, wrap boxes) settle in the second. OutElements holds the second frame's elements.
+	 * Lays the widget out as the root of a window of the given size and paints it, frame after frame
+	 * as the editor does, until a frame draws everything where the previous one did: widgets that
+	 * follow the room they were given in the last frame (wrapping text, wrap boxes, scroll bars)
+	 * settle within a few frames. OutElements holds the last frame's elements.
 	 */
 	static void PaintWidget(const TSharedRef<SWidget>& Widget, const FVector2D& Size, FSlateWindowElementList& OutElements);
 

@@ -20,6 +20,9 @@ DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&);
 /** The user committed the text of an editable text widget. */
 DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type);
 
+/** Notification when the user scrolls: the new scroll offset, as a fraction of the content. */
+DECLARE_DELEGATE_OneParam(FOnUserScrolled, float);
+
 /** Delegates of list-like widgets, by item type. */
 template <typename ArgumentType>
 class TSlateDelegates

@@ -1,5 +1,6 @@
 #include "Styling/CoreStyle.h"
 
+#include "Brushes/SlateBoxBrush.h"
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateImageBrush.h"
 #include "Brushes/SlateNoResource.h"
@@ -76,6 +77,8 @@ namespace
 		}
 		Style.Set(TEXT("DefaultForeground"), FStyleColors::Foreground);
 		Style.Set(TEXT("WhiteBrush"), new FSlateColorBrush(FLinearColor::White));
+		Style.Set(TEXT("NoBrush"), new FSlateNoResource());
+		Style.Set(TEXT("NoBorder"), new FSlateNoResource());
 		Style.Set(TEXT("Border"), new FSlateColorBrush(FStyleColors::Panel));
 		Style.Set(TEXT("ToolPanel.GroupBorder"), new FSlateColorBrush(FStyleColors::Panel));
 		Style.Set(TEXT("FocusRectangle"), new FSlateRoundedBoxBrush(FStyleColors::Transparent, InputFocusRadius, FStyleColors::Primary, InputFocusThickness));
@@ -134,7 +137,8 @@ namespace
 	void SetPanelStyles(FSlateStyleSet& Style)
 	{
 		const FTextBlockStyle NormalText = MakeNormalText();
-		Style.Set(TEXT("ScrollBox"), FScrollBoxStyle());
+		Style.Set(TEXT("Scrollbar"), FScrollBarStyle().SetNormalThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover, 4.0f)).SetDraggedThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover2, 4.0f)).SetHoveredThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover2, 4.0f)).SetThickness(8.0f));
+		Style.Set(TEXT("ScrollBox"), FScrollBoxStyle().SetTopShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowTop.png")), FVector2D(16.0, 8.0), FMargin(0.5f, 1.0f, 0.5f, 0.0f))).SetBottomShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowBottom.png")), FVector2D(16.0, 8.0), FMargin(0.5f, 0.0f, 0.5f, 1.0f))).SetLeftShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowLeft.png")), FVector2D(8.0, 16.0), FMargin(1.0f, 0.5f, 0.0f, 0.5f))).SetRightShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowRight.png")), FVector2D(8.0, 16.0), FMargin(0.0f, 0.5f, 1.0f, 0.5f))).SetBarThickness(8.0f));
 		Style.Set(TEXT("TableView.Row"), FTableRowStyle());
 		Style.Set(TEXT("Docking.Tab"), FDockTabStyle().SetContentAreaBrush(FSlateColorBrush(FStyleColors::Panel)).SetTabWellBrush(FSlateColorBrush(FStyleColors::Background)).SetTabPadding(FMargin(4.0f, 3.0f, 10.0f, 4.0f)).SetTabTextStyle(NormalText));
 		Style.Set(TEXT("Docking.MajorTab"), FDockTabStyle().SetContentAreaBrush(FSlateColorBrush(FStyleColors::Background)).SetTabWellBrush(FSlateColorBrush(FStyleColors::Background)).SetTabPadding(FMargin(4.0f, 4.0f, 10.0f, 4.0f)).SetTabTextStyle(NormalText));

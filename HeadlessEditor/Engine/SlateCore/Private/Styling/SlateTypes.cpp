@@ -12,6 +12,7 @@ const FName FComboButtonStyle::TypeName(TEXT("FComboButtonStyle"));
 const FName FComboBoxStyle::TypeName(TEXT("FComboBoxStyle"));
 const FName FEditableTextStyle::TypeName(TEXT("FEditableTextStyle"));
 const FName FEditableTextBoxStyle::TypeName(TEXT("FEditableTextBoxStyle"));
+const FName FScrollBarStyle::TypeName(TEXT("FScrollBarStyle"));
 const FName FScrollBoxStyle::TypeName(TEXT("FScrollBoxStyle"));
 const FName FTableRowStyle::TypeName(TEXT("FTableRowStyle"));
 
@@ -167,6 +168,31 @@ const FEditableTextBoxStyle& FEditableTextBoxStyle::GetDefault()
 	return Default;
 }
 
+FScrollBarStyle::FScrollBarStyle()
+	: HorizontalBackgroundImage(FSlateNoResource())
+	, VerticalBackgroundImage(FSlateNoResource())
+	, VerticalTopSlotImage(FSlateNoResource())
+	, HorizontalTopSlotImage(FSlateNoResource())
+	, VerticalBottomSlotImage(FSlateNoResource())
+	, HorizontalBottomSlotImage(FSlateNoResource())
+	, NormalThumbImage(FSlateNoResource())
+	, HoveredThumbImage(FSlateNoResource())
+	, DraggedThumbImage(FSlateNoResource())
+	, Thickness(16.0f)
+{
+}
+
+void FScrollBarStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&HorizontalBackgroundImage, &VerticalBackgroundImage, &VerticalTopSlotImage, &HorizontalTopSlotImage, &VerticalBottomSlotImage, &HorizontalBottomSlotImage, &NormalThumbImage, &HoveredThumbImage, &DraggedThumbImage});
+}
+
+const FScrollBarStyle& FScrollBarStyle::GetDefault()
+{
+	static const FScrollBarStyle Default;
+	return Default;
+}
+
 FScrollBoxStyle::FScrollBoxStyle()
 	: BarThickness(9.0f)
 {
@@ -174,7 +200,7 @@ FScrollBoxStyle::FScrollBoxStyle()
 
 void FScrollBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 {
-	OutBrushes.Append({&TopShadowBrush, &BottomShadowBrush});
+	OutBrushes.Append({&TopShadowBrush, &BottomShadowBrush, &LeftShadowBrush, &RightShadowBrush});
 }
 
 const FScrollBoxStyle& FScrollBoxStyle::GetDefault()

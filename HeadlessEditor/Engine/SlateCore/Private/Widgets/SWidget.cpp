@@ -15,7 +15,7 @@ SWidget::SWidget()
 	, VisibilityAttribute(EVisibility::Visible)
 	, TypeOfWidget(TEXT("SWidget"))
 	, bNeedsPrepass(true)
-	, bCanTick(false)
+	, bCanTick(true)
 	, RenderOpacity(1.0f)
 	, Clipping(EWidgetClipping::Inherit)
 {

@@ -1,15 +1,9 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Fonts/FontTypes.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Textures/TextureAtlas.h"
-
-/** Makes the textures a font cache puts its glyphs in; each renderer has its own. */
-class ISlateFontAtlasFactory
-{
-public:
-	virtual ~ISlateFontAtlasFactory() {}
-};
 
 /**
  * Shapes and measures text in the fonts widgets name. The headless editor shapes with Pango over the

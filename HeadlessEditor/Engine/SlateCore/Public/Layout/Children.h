@@ -113,6 +113,20 @@ public:
 		Children.Insert(MoveTemp(NewSlot), Index);
 	}
 
+	/** Removes the slot holding the widget. @return the slot's index, or INDEX_NONE */
+	int32 Remove(const TSharedRef<SWidget>& SlotWidget)
+	{
+		for (int32 Index = 0; Index < Children.Num(); ++Index)
+		{
+			if (Children[Index]->GetWidget() == SlotWidget)
+			{
+				RemoveAt(Index);
+				return Index;
+			}
+		}
+		return INDEX_NONE;
+	}
+
 	void RemoveAt(int32 Index)
 	{
 		Children[Index]->DetachWidget();

@@ -664,6 +664,97 @@ struct SLATECORE_API FEditableTextBoxStyle : public FSlateWidgetStyle
 	}
 };
 
+/** How a scroll bar draws itself: its track and its thumb in each state. */
+struct SLATECORE_API FScrollBarStyle : public FSlateWidgetStyle
+{
+	FScrollBarStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FScrollBarStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Background image to use when the scrollbar is oriented horizontally */
+	FSlateBrush HorizontalBackgroundImage;
+	FScrollBarStyle& SetHorizontalBackgroundImage(const FSlateBrush& InHorizontalBackgroundImage)
+	{
+		HorizontalBackgroundImage = InHorizontalBackgroundImage;
+		return *this;
+	}
+
+	/** Background image to use when the scrollbar is oriented vertically */
+	FSlateBrush VerticalBackgroundImage;
+	FScrollBarStyle& SetVerticalBackgroundImage(const FSlateBrush& InVerticalBackgroundImage)
+	{
+		VerticalBackgroundImage = InVerticalBackgroundImage;
+		return *this;
+	}
+
+	/** The image to use to represent the track above the thumb when the scrollbar is oriented vertically */
+	FSlateBrush VerticalTopSlotImage;
+	FScrollBarStyle& SetVerticalTopSlotImage(const FSlateBrush& Value)
+	{
+		VerticalTopSlotImage = Value;
+		return *this;
+	}
+
+	/** The image to use to represent the track above the thumb when the scrollbar is oriented horizontally */
+	FSlateBrush HorizontalTopSlotImage;
+	FScrollBarStyle& SetHorizontalTopSlotImage(const FSlateBrush& Value)
+	{
+		HorizontalTopSlotImage = Value;
+		return *this;
+	}
+
+	/** The image to use to represent the track below the thumb when the scrollbar is oriented vertically */
+	FSlateBrush VerticalBottomSlotImage;
+	FScrollBarStyle& SetVerticalBottomSlotImage(const FSlateBrush& Value)
+	{
+		VerticalBottomSlotImage = Value;
+		return *this;
+	}
+
+	/** The image to use to represent the track below the thumb when the scrollbar is oriented horizontally */
+	FSlateBrush HorizontalBottomSlotImage;
+	FScrollBarStyle& SetHorizontalBottomSlotImage(const FSlateBrush& Value)
+	{
+		HorizontalBottomSlotImage = Value;
+		return *this;
+	}
+
+	/** Image to use when the scrollbar thumb is in its normal state */
+	FSlateBrush NormalThumbImage;
+	FScrollBarStyle& SetNormalThumbImage(const FSlateBrush& InNormalThumbImage)
+	{
+		NormalThumbImage = InNormalThumbImage;
+		return *this;
+	}
+
+	/** Image to use when the scrollbar thumb is in its hovered state */
+	FSlateBrush HoveredThumbImage;
+	FScrollBarStyle& SetHoveredThumbImage(const FSlateBrush& InHoveredThumbImage)
+	{
+		HoveredThumbImage = InHoveredThumbImage;
+		return *this;
+	}
+
+	/** Image to use when the scrollbar thumb is in its dragged state */
+	FSlateBrush DraggedThumbImage;
+	FScrollBarStyle& SetDraggedThumbImage(const FSlateBrush& InDraggedThumbImage)
+	{
+		DraggedThumbImage = InDraggedThumbImage;
+		return *this;
+	}
+
+	/** The thickness of the scrollbar thumb */
+	float Thickness;
+	FScrollBarStyle& SetThickness(float InThickness)
+	{
+		Thickness = InThickness;
+		return *this;
+	}
+};
+
 /** How a scroll box draws itself. */
 struct SLATECORE_API FScrollBoxStyle : public FSlateWidgetStyle
 {
@@ -687,6 +778,22 @@ struct SLATECORE_API FScrollBoxStyle : public FSlateWidgetStyle
 	FScrollBoxStyle& SetBottomShadowBrush(const FSlateBrush& InBottomShadowBrush)
 	{
 		BottomShadowBrush = InBottomShadowBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the left shadow of a scrollbox */
+	FSlateBrush LeftShadowBrush;
+	FScrollBoxStyle& SetLeftShadowBrush(const FSlateBrush& InLeftShadowBrush)
+	{
+		LeftShadowBrush = InLeftShadowBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the right shadow of a scrollbox */
+	FSlateBrush RightShadowBrush;
+	FScrollBoxStyle& SetRightShadowBrush(const FSlateBrush& InRightShadowBrush)
+	{
+		RightShadowBrush = InRightShadowBrush;
 		return *this;
 	}
 

@@ -320,11 +320,12 @@ namespace RequiredArgs
 		{
 		}
 
+		/** Passes each argument on as it was given: an argument given as a temporary is moved into Construct. */
 		template <class WidgetType>
-		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs) const
+		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs)
 		{
 			std::apply([&](auto&... Unpacked)
-				{ OnWidget->Construct(WithNamedArgs, Unpacked...); },
+				{ OnWidget->Construct(WithNamedArgs, Forward<ArgTypes>(Unpacked)...); },
 				Args);
 		}
 
