@@ -26,7 +26,7 @@ TEST(CommandLine, WizardPrintsRegistrationsAndTheWizardTree)
 	EXPECT_TRUE(BeginsWith(Run.Out, "Registered by CastellanEditor:\n"));
 	EXPECT_TRUE(Contains(Run.Out, "  Nomad tab \"LivestreamWizard\": \"Livestream Wizard\""));
 	EXPECT_TRUE(Contains(Run.Out, "\nLivestreamWizard tab:\nSLivestreamWizard [Visible, enabled]\n"));
-	EXPECT_TRUE(Contains(Run.Out, "            SButton [Visible, enabled]\n              STextBlock \"Create\" [Visible, enabled]\n          SVerticalBox [Collapsed, enabled]\n"));
+	EXPECT_TRUE(Contains(Run.Out, "                  SButton [Visible, enabled]\n                    STextBlock \"Create\" [HitTestInvisible, enabled]\n                SVerticalBox [Collapsed, enabled]\n"));
 }
 
 TEST(CommandLine, MenuPrintsTheToolbarDropDown)

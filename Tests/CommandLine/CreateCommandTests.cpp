@@ -96,21 +96,22 @@ TEST(CreateCommand, ANonLatinNamePrintsAsUtf8)
 
 TEST(CreateCommand, ControlCharactersInANamePrintEscaped)
 {
-	// A tab, an escape sequence, DEL, the C1 control CSI and a line feed.
+	// A tab, an escape sequence, DEL, the C1 control CSI and a line feed, typed into the name box: as in the
+	// engine, the box types the tab and CSI, swallows escape, DEL and the line feed.
 	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "Spout", "--name", "Main\tStage\x1b[31m\x7f\xc2\x9b\nEnd"});
 
 	EXPECT_EQ(Run.ExitCode, 0);
 	EXPECT_FALSE(ContainsRawControlCharacters(Run.Out));
-	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"Main\\tStage\\x1B[31m\\x7F\\u009B\\nEnd\" [Visible, enabled]\n"));
-	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage\\x1B[31m\\x7F\\u009B\\nEnd' created!\""));
-	// The asset tools replace the tab, bracket and line feed; the others stay in the sender's name.
-	EXPECT_TRUE(Contains(Run.Out, "    sender \"Main_Stage\\x1B_31m\\x7F\\u009B_End\" (standalone \"Main_Stage\\x1B_31m\\x7F\\u009B_End_Standalone\")"));
+	EXPECT_TRUE(Contains(Run.Out, "SEditableText \"Main\\tStage[31m\\u009BEnd\""));
+	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage[31m\\u009BEnd' created!\""));
+	// The asset tools replace the tab and the bracket; CSI stays in the sender's name.
+	EXPECT_TRUE(Contains(Run.Out, "    sender \"Main_Stage_31m\\u009BEnd\" (standalone \"Main_Stage_31m\\u009BEnd_Standalone\")"));
 
-	const FProgramRun Failed = RunCastellanHeadless({"create", "--output", "Spout", "--name", "\x1b]0;title\x07/"});
+	const FProgramRun Failed = RunCastellanHeadless({"create", "--output", "Spout", "--name", "Stage\t\xc2\x9b/"});
 	EXPECT_EQ(Failed.ExitCode, 1);
 	EXPECT_FALSE(ContainsRawControlCharacters(Failed.Out));
 	EXPECT_FALSE(ContainsRawControlCharacters(Failed.Err));
-	EXPECT_TRUE(Contains(Failed.Err, "it shows \"ERROR: Failed to create Livestream '\\x1B]0;title\\x07/'!\"\n"));
+	EXPECT_TRUE(Contains(Failed.Err, "it shows \"ERROR: Failed to create Livestream 'Stage\\t\\u009B/'!\"\n"));
 }
 
 TEST(CreateCommand, ABackslashInANamePrintsDoubled)

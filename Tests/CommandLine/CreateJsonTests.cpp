@@ -91,6 +91,8 @@ TEST(CreateJson, NamesKeepEveryCharacterWhileTheTextStaysPrintable)
 	EXPECT_TRUE(Contains(Run.Out, Japanese));
 	// The right-to-left override is no control of the terminal's, but would reorder what follows it.
 	EXPECT_FALSE(Contains(Run.Out, "\xe2\x80\xae"));
-	EXPECT_EQ(Result["done_text"], "Livestream '" + Name + "' created!");
-	EXPECT_EQ(Result["level"]["actors"][1]["senders"][0]["name"], Japanese + "_\x1b_1m\x7f\xc2\x9b\xe2\x80\xae");
+	// The name box types the tab, CSI and the override, and swallows escape and DEL, as the engine's does.
+	const std::string Typed = Japanese + "\t[1m\xc2\x9b\xe2\x80\xae";
+	EXPECT_EQ(Result["done_text"], "Livestream '" + Typed + "' created!");
+	EXPECT_EQ(Result["level"]["actors"][1]["senders"][0]["name"], Japanese + "__1m\xc2\x9b\xe2\x80\xae");
 }

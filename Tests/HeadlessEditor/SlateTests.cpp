@@ -2,6 +2,8 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "HeadlessSlateRenderer.h"
+#include "HeadlessStyles.h"
+#include "HeadlessTabs.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "Textures/SlateIcon.h"
@@ -51,19 +53,19 @@ namespace
 		TSharedPtr<STextBlock> Label;
 	};
 
-	class FSlateTest : public ::testing::Test
+	class Slate : public ::testing::Test
 	{
 	protected:
 		void SetUp() override { FSlateApplication::Create(); }
 		void TearDown() override
 		{
-			FGlobalTabmanager::Get()->ResetForHeadlessSession();
+			UE::Headless::ResetTabs();
 			FSlateApplication::Shutdown();
 		}
 	};
 }
 
-TEST_F(FSlateTest, BoundAttributesAreReadAgainOnEveryGet)
+TEST_F(Slate, BoundAttributesAreReadAgainOnEveryGet)
 {
 	TSharedRef<SProbe> Probe = SNew(SProbe);
 	EXPECT_EQ(Probe->Label->GetText().ToString(), TEXT("First!"));
@@ -77,7 +79,7 @@ TEST_F(FSlateTest, BoundAttributesAreReadAgainOnEveryGet)
 	EXPECT_EQ(Probe->Label->GetParentWidget()->GetTypeAsString(), TEXT("SVerticalBox"));
 }
 
-TEST_F(FSlateTest, ButtonClicksOnlyWhenItAndItsAncestorsAreEnabledAndShown)
+TEST_F(Slate, ButtonClicksOnlyWhenItAndItsAncestorsAreEnabledAndShown)
 {
 	bool bEnabled = false;
 	bool bPanelEnabled = true;
@@ -98,10 +100,10 @@ TEST_F(FSlateTest, ButtonClicksOnlyWhenItAndItsAncestorsAreEnabledAndShown)
 	bPanelEnabled = true;
 	EXPECT_TRUE(FWidgetDriver::Click(Button.ToSharedRef()));
 	EXPECT_EQ(Clicks, 1);
-	EXPECT_EQ(FWidgetDriver::DescribeTree(Panel), TEXT("SVerticalBox [SelfHitTestInvisible, enabled]\n  SButton [Visible, enabled]\n    STextBlock \"Create\" [Visible, enabled]\n"));
+	EXPECT_EQ(FWidgetDriver::DescribeTree(Panel), TEXT("SVerticalBox [SelfHitTestInvisible, enabled]\n  SButton [Visible, enabled]\n    STextBlock \"Create\" [HitTestInvisible, enabled]\n"));
 }
 
-TEST_F(FSlateTest, CheckBoxFiresOnlyForUserToggles)
+TEST_F(Slate, CheckBoxFiresOnlyForUserToggles)
 {
 	TArray<ECheckBoxState> Fired;
 	TSharedRef<SCheckBox> Box = SNew(SCheckBox).OnCheckStateChanged_Lambda([&Fired](ECheckBoxState State)
@@ -124,7 +126,7 @@ TEST_F(FSlateTest, CheckBoxFiresOnlyForUserToggles)
 	EXPECT_EQ(Box->GetCheckedState(), ECheckBoxState::Unchecked);
 }
 
-TEST_F(FSlateTest, ComboBoxFiresOnlyWhenTheSelectedPointerChanges)
+TEST_F(Slate, ComboBoxFiresOnlyWhenTheSelectedPointerChanges)
 {
 	TArray<TSharedPtr<FString>> Options = {MakeShared<FString>(TEXT("Cine")), MakeShared<FString>(TEXT("360"))};
 	TArray<TPair<TSharedPtr<FString>, ESelectInfo::Type>> Fired;
@@ -162,7 +164,7 @@ TEST_F(FSlateTest, ComboBoxFiresOnlyWhenTheSelectedPointerChanges)
 	EXPECT_EQ(FWidgetDriver::GetDisplayedText(Rows[1]).GetValue(), TEXT("360"));
 }
 
-TEST_F(FSlateTest, KeysBubbleUpToTheFirstAncestorThatHandlesThem)
+TEST_F(Slate, KeysBubbleUpToTheFirstAncestorThatHandlesThem)
 {
 	TSharedPtr<SProbe> Inner;
 	TSharedPtr<SCheckBox> Box;
@@ -188,7 +190,7 @@ TEST_F(FSlateTest, KeysBubbleUpToTheFirstAncestorThatHandlesThem)
 	EXPECT_EQ(Outer->KeysSeen.Num(), 2);
 }
 
-TEST_F(FSlateTest, TypingReportsTheChangeThenTheCommit)
+TEST_F(Slate, TypingReportsEachCharacterThenTheCommit)
 {
 	TArray<FString> Events;
 	TSharedRef<SEditableTextBox> TextBox = SNew(SEditableTextBox)
@@ -197,18 +199,21 @@ TEST_F(FSlateTest, TypingReportsTheChangeThenTheCommit)
 											   .OnTextCommitted_Lambda([&Events](const FText& Text, ETextCommit::Type Type)
 												   { Events.Add(FString::Printf(TEXT("committed %s %d"), *Text.ToString(), static_cast<int32>(Type))); });
 
-	EXPECT_TRUE(FWidgetDriver::TypeText(TextBox, FText::FromString(TEXT("Show"))));
-	ASSERT_EQ(Events.Num(), 2);
-	EXPECT_EQ(Events[0], TEXT("changed Show"));
-	EXPECT_EQ(Events[1], TEXT("committed Show 1"));
-	EXPECT_EQ(TextBox->GetText().ToString(), TEXT("Show"));
+	EXPECT_TRUE(FWidgetDriver::TypeText(TextBox, FText::FromString(TEXT("Go"))));
+	EXPECT_EQ(Events, TArray<FString>({TEXT("changed G"), TEXT("changed Go"), TEXT("committed Go 1")}));
+	EXPECT_EQ(TextBox->GetText().ToString(), TEXT("Go"));
+
+	// Typing again replaces the text; leaving the box commits without Enter, once.
+	Events.Reset();
+	EXPECT_TRUE(FWidgetDriver::TypeText(TextBox, FText::FromString(TEXT("Up")), ETextCommit::OnUserMovedFocus));
+	EXPECT_EQ(Events, TArray<FString>({TEXT("changed U"), TEXT("changed Up"), TEXT("committed Up 2")}));
 
 	TextBox->SetText(FText::GetEmpty());
 	EXPECT_TRUE(TextBox->GetText().IsEmpty());
-	EXPECT_EQ(Events.Num(), 2);
+	EXPECT_EQ(Events.Num(), 3);
 }
 
-TEST_F(FSlateTest, InvokingAnOpenTabReturnsItWithoutSpawningAgain)
+TEST_F(Slate, InvokingAnOpenTabReturnsItWithoutSpawningAgain)
 {
 	int32 Spawns = 0;
 	const FName TabName(TEXT("LivestreamWizard"));
@@ -221,7 +226,7 @@ TEST_F(FSlateTest, InvokingAnOpenTabReturnsItWithoutSpawningAgain)
 	ASSERT_TRUE(First.IsValid());
 	EXPECT_EQ(First, Second);
 	EXPECT_EQ(Spawns, 1);
-	EXPECT_EQ(FWidgetDriver::GetAttentionRequests(*First), 1);
+	EXPECT_EQ(UE::Headless::GetAttentionRequests(*First), 1);
 	EXPECT_EQ(First->GetContent()->GetTypeAsString(), TEXT("STextBlock"));
 
 	EXPECT_TRUE(First->RequestCloseTab());
@@ -233,15 +238,14 @@ TEST_F(FSlateTest, InvokingAnOpenTabReturnsItWithoutSpawningAgain)
 	EXPECT_FALSE(FGlobalTabmanager::Get()->HasTabSpawner(TabName));
 }
 
-TEST_F(FSlateTest, StyleSetOwnsItsBrushesAndIconsResolveThroughTheRegistry)
+TEST_F(Slate, StyleSetOwnsItsBrushesAndIconsResolveThroughTheRegistry)
 {
 	FSlateStyleSet Style(TEXT("ProbeStyle"));
 	Style.SetContentRoot(TEXT("/Plugin/Resources"));
 	Style.Set(TEXT("Probe.Icon"), new FSlateImageBrush(Style.RootToContentDir(TEXT("Logo/Logo_40x"), TEXT(".png")), FVector2D(40.0, 40.0)));
 	Style.Set(TEXT("Probe.Other"), new FSlateImageBrush(Style.RootToContentDir("Logo/Logo_80x", TEXT(".png")), FVector2D(80.0, 80.0)));
 
-	TArray<FName> Keys;
-	Style.GetBrushKeys(Keys);
+	const TArray<FName> Keys = UE::Headless::GetBrushKeys(Style);
 	ASSERT_EQ(Keys.Num(), 2);
 	EXPECT_EQ(Keys[1], FName(TEXT("Probe.Other")));
 	EXPECT_EQ(Style.GetBrush(TEXT("Probe.Icon"))->GetResourceName(), FName(TEXT("/Plugin/Resources/Logo/Logo_40x.png")));
@@ -255,7 +259,7 @@ TEST_F(FSlateTest, StyleSetOwnsItsBrushesAndIconsResolveThroughTheRegistry)
 	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle(TEXT("ProbeStyle")), nullptr);
 }
 
-TEST_F(FSlateTest, RegisteringAStyleNameTwiceIsFatal)
+TEST_F(Slate, RegisteringAStyleNameTwiceIsFatal)
 {
 	FSlateStyleSet First(TEXT("TwiceStyle"));
 	FSlateStyleSet Second(TEXT("TwiceStyle"));
@@ -264,7 +268,7 @@ TEST_F(FSlateTest, RegisteringAStyleNameTwiceIsFatal)
 	FSlateStyleRegistry::UnRegisterSlateStyle(First);
 }
 
-TEST_F(FSlateTest, RendererReloadsAreCounted)
+TEST_F(Slate, RendererReloadsAreCounted)
 {
 	const TSharedRef<FHeadlessSlateRenderer> Renderer = MakeShared<FHeadlessSlateRenderer>();
 	FSlateApplication::Get().InitializeRenderer(Renderer);

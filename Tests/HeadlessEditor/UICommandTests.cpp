@@ -4,7 +4,7 @@
 #include "Framework/Commands/UIAction.h"
 #include "Framework/Commands/UICommandInfo.h"
 #include "Framework/Commands/UICommandList.h"
-#include "Framework/Docking/TabManager.h"
+#include "HeadlessTabs.h"
 #include "Misc/OutputDevice.h"
 #include "Misc/OutputDeviceRedirector.h"
 
@@ -49,7 +49,7 @@ namespace
 		int32 Count = 0;
 	};
 
-	class UICommandTests : public ::testing::Test
+	class UICommand : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -61,7 +61,7 @@ namespace
 		virtual void TearDown() override
 		{
 			FProbeCommands::Unregister();
-			FGlobalTabmanager::Get()->ResetForHeadlessSession();
+			UE::Headless::ResetTabs();
 			FSlateApplication::Shutdown();
 		}
 
@@ -69,7 +69,7 @@ namespace
 	};
 }
 
-TEST_F(UICommandTests, RegisteringAgainKeepsTheFirstContextAndItsCommands)
+TEST_F(UICommand, RegisteringAgainKeepsTheFirstContextAndItsCommands)
 {
 	ASSERT_TRUE(FProbeCommands::IsRegistered());
 	EXPECT_EQ(GRegisterCommandsCalls, 1);
@@ -87,7 +87,7 @@ TEST_F(UICommandTests, RegisteringAgainKeepsTheFirstContextAndItsCommands)
 	EXPECT_TRUE(Context->GetContextDesc().ToString().Equals(TEXT("Probe")));
 }
 
-TEST_F(UICommandTests, UnregisteringRemovesTheContextAndAllowsAFreshRegistration)
+TEST_F(UICommand, UnregisteringRemovesTheContextAndAllowsAFreshRegistration)
 {
 	FProbeCommands::Unregister();
 	EXPECT_FALSE(FProbeCommands::IsRegistered());
@@ -98,7 +98,7 @@ TEST_F(UICommandTests, UnregisteringRemovesTheContextAndAllowsAFreshRegistration
 	EXPECT_TRUE(FInputBindingManager::Get().GetContextByName(TEXT("ProbeCommands")).IsValid());
 }
 
-TEST_F(UICommandTests, UICommandFillsTheCommandFromItsMacroArguments)
+TEST_F(UICommand, UICommandFillsTheCommandFromItsMacroArguments)
 {
 	const FUICommandInfo& Open = *Commands().Open;
 	EXPECT_EQ(Open.GetCommandName(), FName(TEXT("Open")));
@@ -115,7 +115,7 @@ TEST_F(UICommandTests, UICommandFillsTheCommandFromItsMacroArguments)
 	EXPECT_TRUE(Infos.Contains(Commands().Toggle));
 }
 
-TEST_F(UICommandTests, AnActionWithoutCanExecuteCanAlwaysRunAndReadsUnchecked)
+TEST_F(UICommand, AnActionWithoutCanExecuteCanAlwaysRunAndReadsUnchecked)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	int32 Runs = 0;
@@ -129,7 +129,7 @@ TEST_F(UICommandTests, AnActionWithoutCanExecuteCanAlwaysRunAndReadsUnchecked)
 	EXPECT_EQ(List->GetActionForCommand(Commands().Open)->IsVisible(), EVisibility::Visible);
 }
 
-TEST_F(UICommandTests, CanExecuteAndCheckStateAreAskedEachTime)
+TEST_F(UICommand, CanExecuteAndCheckStateAreAskedEachTime)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	bool bCanRun = false;
@@ -157,7 +157,7 @@ TEST_F(UICommandTests, CanExecuteAndCheckStateAreAskedEachTime)
 	EXPECT_EQ(Runs, 1);
 }
 
-TEST_F(UICommandTests, CheckStateAndVisibilityOverloadsReachTheAction)
+TEST_F(UICommand, CheckStateAndVisibilityOverloadsReachTheAction)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	bool bVisible = false;
@@ -175,7 +175,7 @@ TEST_F(UICommandTests, CheckStateAndVisibilityOverloadsReachTheAction)
 	EXPECT_TRUE(List->ExecuteAction(Commands().Toggle.ToSharedRef()));
 }
 
-TEST_F(UICommandTests, UnmappedCommandsAreNotExecutedButCountAsRunnable)
+TEST_F(UICommand, UnmappedCommandsAreNotExecutedButCountAsRunnable)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	const TSharedRef<const FUICommandInfo> Open = Commands().Open.ToSharedRef();
@@ -186,7 +186,7 @@ TEST_F(UICommandTests, UnmappedCommandsAreNotExecutedButCountAsRunnable)
 	EXPECT_EQ(List->GetActionForCommand(Commands().Open), nullptr);
 }
 
-TEST_F(UICommandTests, MappingAgainReplacesTheActionAndUnmapRemovesIt)
+TEST_F(UICommand, MappingAgainReplacesTheActionAndUnmapRemovesIt)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	FString Ran;
@@ -203,7 +203,7 @@ TEST_F(UICommandTests, MappingAgainReplacesTheActionAndUnmapRemovesIt)
 	EXPECT_TRUE(Ran.Equals(TEXT("B")));
 }
 
-TEST_F(UICommandTests, MappingANullCommandEnsuresAndMapsNothing)
+TEST_F(UICommand, MappingANullCommandEnsuresAndMapsNothing)
 {
 	const TSharedRef<FUICommandList> List = MakeShared<FUICommandList>();
 	FEnsureCounter Ensures;

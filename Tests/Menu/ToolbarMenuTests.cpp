@@ -1,7 +1,7 @@
 #include "CastellanEditorCommands.h"
 #include "Framework/Docking/TabManager.h"
 #include "HeadlessDesktop.h"
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
 #include "HeadlessPlugins.h"
 #include "HeadlessToolMenus.h"
 #include "HeadlessEditorSession.h"

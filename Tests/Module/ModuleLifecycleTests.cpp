@@ -4,9 +4,10 @@
 #include "CastellanEditorStyle.h"
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
-#include "Framework/Notifications/NotificationManager.h"
 #include "HeadlessEditorSession.h"
+#include "HeadlessNotifications.h"
 #include "HeadlessPropertyEditor.h"
+#include "HeadlessTabs.h"
 #include "HeadlessToolMenus.h"
 #include "IPlacementModeModule.h"
 #include "Misc/CoreDelegates.h"
@@ -61,7 +62,7 @@ namespace
 
 	int32 CountNotifications()
 	{
-		return FSlateNotificationManager::Get().GetNotifications().Num();
+		return UE::Headless::GetNotifications().Num();
 	}
 
 	/** What the module has registered while it runs, counted so that a duplicate shows. */
@@ -81,7 +82,7 @@ TEST(ModuleLifecycle, StartupRegistersTheWizardTabWithItsTitleTooltipAndIcon)
 {
 	FHeadlessEditorSession Session;
 
-	const TSharedPtr<const FTabSpawnerEntry> Spawner = FWidgetDriver::FindNomadTabSpawner(WizardTab);
+	const TSharedPtr<const FTabSpawnerEntry> Spawner = UE::Headless::FindNomadTabSpawner(WizardTab);
 	ASSERT_TRUE(Spawner.IsValid());
 	EXPECT_EQ(Spawner->GetDisplayName().ToString(), TEXT("Livestream Wizard"));
 	EXPECT_EQ(Spawner->GetTooltipText().ToString(), TEXT("Open the Livestream Wizard tab."));
@@ -148,7 +149,7 @@ TEST(ModuleLifecycle, OpeningTheWizardTwiceShowsOneTab)
 
 	ASSERT_TRUE(First.IsValid());
 	EXPECT_EQ(First, Second);
-	EXPECT_EQ(FWidgetDriver::GetAttentionRequests(*First), 1);
+	EXPECT_EQ(UE::Headless::GetAttentionRequests(*First), 1);
 }
 
 TEST(ModuleLifecycle, TheWizardTabIsANomadTabHoldingTheWizard)

@@ -2,6 +2,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "HeadlessEditorSession.h"
 #include "HeadlessSlateRenderer.h"
+#include "HeadlessStyles.h"
 #include "Styling/SlateBrush.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
@@ -70,8 +71,7 @@ TEST(StyleSet, HoldsEveryBrushOfTheTableInOrderWithItsImageAndSize)
 	FHeadlessEditorSession Session;
 	const FSlateStyleSet& Style = GetRegisteredStyle();
 
-	TArray<FName> Keys;
-	Style.GetBrushKeys(Keys);
+	const TArray<FName> Keys = UE::Headless::GetBrushKeys(Style);
 	ASSERT_EQ(Keys.Num(), static_cast<int32>(UE_ARRAY_COUNT(ExpectedBrushes)));
 	for (int32 Index = 0; Index < Keys.Num(); ++Index)
 	{

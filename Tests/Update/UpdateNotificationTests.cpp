@@ -1,7 +1,7 @@
 #include "AuthDelegates.h"
 #include "Framework/Notifications/NotificationManager.h"
 #include "HeadlessDesktop.h"
-#include "Headless/HeadlessNotifications.h"
+#include "HeadlessNotifications.h"
 #include "HeadlessSaveGames.h"
 #include "HeadlessEditorSession.h"
 #include "Kismet/GameplayStatics.h"
@@ -22,7 +22,7 @@ namespace
 
 	const TArray<TSharedRef<SNotificationItem>>& GetNotifications()
 	{
-		return FSlateNotificationManager::Get().GetNotifications();
+		return UE::Headless::GetNotifications();
 	}
 
 	void Announce(const TCHAR* DisplayVersion, const TCHAR* Address)

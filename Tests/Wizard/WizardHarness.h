@@ -45,10 +45,10 @@ public:
 	{
 		return FWidgetDriver::Find<SButton>(Wizard, TEXT("SButton"), FString(TEXT("Create"))).ToSharedRef();
 	}
-	/** The done page's button: the second button of the wizard. */
+	/** The done page's button: the last button of the wizard (the combo box holds one too). */
 	TSharedRef<SButton> GetRestartButton() const
 	{
-		return StaticCastSharedRef<SButton>(FWidgetDriver::FindAllWidgets(Wizard, TEXT("SButton"))[1]);
+		return StaticCastSharedRef<SButton>(FWidgetDriver::FindAllWidgets(Wizard, TEXT("SButton")).Last());
 	}
 	/** The text block right after the one showing Label, in tree order. */
 	TSharedRef<STextBlock> GetTextBlockAfter(const FString& Label) const

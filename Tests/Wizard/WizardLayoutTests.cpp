@@ -47,9 +47,19 @@ TEST(WizardLayout, LabelsAreGreyAndWarningsRedAndItalic)
 	ExpectLabelStyle(FindText(Harness, TEXT("1. Select Capture Type:")));
 	ExpectLabelStyle(FindText(Harness, TEXT("2. Select Output Type:")));
 	ExpectLabelStyle(FindText(Harness, TEXT("3. Set Livestream Name:")));
+	EXPECT_TRUE(FWidgetDriver::GetFont(*FindText(Harness, TEXT("Livestream Wizard"))).IsIdenticalTo(FCoreStyle::GetDefaultFontStyle("Regular", 19)));
+
+	// The warnings show only once Create finds something missing.
+	Harness.ClickCreate();
 	ExpectWarningStyle(Harness.GetOutputWarning());
 	ExpectWarningStyle(Harness.GetNameWarning());
-	EXPECT_TRUE(FWidgetDriver::GetFont(*FindText(Harness, TEXT("Livestream Wizard"))).IsIdenticalTo(FCoreStyle::GetDefaultFontStyle("Regular", 19)));
+}
+
+TEST(WizardLayout, TheDonePageReportsInALargerFont)
+{
+	FWizardHarness Harness;
+	Harness.Create(TEXT("Stage"), TEXT("Spout"));
+
 	EXPECT_TRUE(FWidgetDriver::GetFont(*Harness.GetDoneText()).IsIdenticalTo(FCoreStyle::GetDefaultFontStyle("Regular", 12)));
 }
 

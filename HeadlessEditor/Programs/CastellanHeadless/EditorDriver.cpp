@@ -100,9 +100,10 @@ namespace
 		TArray<TSharedRef<STextBlock>> Shown;
 		for (const TSharedRef<SWidget>& Widget : FWidgetDriver::FindAllWidgets(Wizard, TEXT("STextBlock")))
 		{
-			if (FWidgetDriver::IsShown(Widget))
+			const TSharedRef<STextBlock> Text = StaticCastSharedRef<STextBlock>(Widget);
+			if (FWidgetDriver::IsShown(Widget) && !Text->GetText().IsEmpty())
 			{
-				Shown.Add(StaticCastSharedRef<STextBlock>(Widget));
+				Shown.Add(Text);
 			}
 		}
 		return Shown;

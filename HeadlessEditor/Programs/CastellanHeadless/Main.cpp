@@ -4,6 +4,7 @@
 #include "Commands.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <vector>
 

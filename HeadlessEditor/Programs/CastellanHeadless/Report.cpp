@@ -4,7 +4,8 @@
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Commands/UICommandInfo.h"
 #include "Framework/Docking/TabManager.h"
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
+#include "HeadlessTabs.h"
 #include "HeadlessPropertyEditor.h"
 #include "IPlacementModeModule.h"
 #include "Modules/ModuleManager.h"
@@ -57,14 +58,14 @@ namespace
 		{
 			return;
 		}
-		TArray<FName> Keys;
-		static_cast<const FSlateStyleSet*>(Style)->GetBrushKeys(Keys);
-		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Shown(Style->GetStyleSetName()), Keys.Num()));
+		TArray<const FSlateBrush*> Brushes;
+		Style->GetResources(Brushes);
+		AppendLine(Out, 1, FString::Printf(TEXT("Style set \"%s\": %d brushes"), *Shown(Style->GetStyleSetName()), Brushes.Num()));
 	}
 
 	void DescribeTab(FString& Out)
 	{
-		const TSharedPtr<const FTabSpawnerEntry> Spawner = FWidgetDriver::FindNomadTabSpawner(TEXT("LivestreamWizard"));
+		const TSharedPtr<const FTabSpawnerEntry> Spawner = UE::Headless::FindNomadTabSpawner(TEXT("LivestreamWizard"));
 		if (!Spawner.IsValid())
 		{
 			return;

@@ -3,10 +3,10 @@
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
 #include "Framework/Application/SlateApplication.h"
-#include "Framework/Docking/TabManager.h"
 #include "HeadlessDesktop.h"
-#include "Headless/HeadlessNotifications.h"
+#include "HeadlessNotifications.h"
 #include "HeadlessPlugins.h"
+#include "HeadlessTabs.h"
 #include "HeadlessEditorEngine.h"
 #include "HeadlessLevelViewports.h"
 #include "HeadlessSlateRenderer.h"
@@ -85,7 +85,7 @@ FHeadlessEditorSession::~FHeadlessEditorSession()
 	UE::Headless::ResetDesktop();
 	LevelViewports.reset();
 	UE::Headless::DestroyEditorEngine();
-	FGlobalTabmanager::Get()->ResetForHeadlessSession();
+	UE::Headless::ResetTabs();
 	FSlateApplication::Shutdown();
 	UE::Headless::UnmountAllPlugins();
 }

@@ -1,14 +1,14 @@
 #include "WidgetDriver.h"
 
 #include "Framework/Application/SlateApplication.h"
-#include "Framework/Docking/TabManager.h"
 #include "Layout/Children.h"
 #include "PrintableText.h"
-#include "Widgets/Docking/SDockTab.h"
+#include "Rendering/DrawElements.h"
+#include "WidgetRenderer.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SEditableText.h"
 #include "Widgets/Input/SEditableTextBox.h"
-#include "Widgets/Layout/SWrapBox.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -34,6 +34,10 @@ namespace
 		if (IsOfType(*Widget, TEXT("SEditableTextBox")))
 		{
 			return StaticCastSharedRef<SEditableTextBox>(Widget)->GetText().ToString();
+		}
+		if (IsOfType(*Widget, TEXT("SEditableText")))
+		{
+			return StaticCastSharedRef<SEditableText>(Widget)->GetText().ToString();
 		}
 		return TOptional<FString>();
 	}
@@ -145,34 +149,50 @@ bool FWidgetDriver::IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget)
 	return true;
 }
 
+TArray<FWidgetDriver::FPaintedText> FWidgetDriver::GetPaintedText(const TSharedRef<SWidget>& Widget)
+{
+	TSharedRef<SWidget> Root = Widget;
+	while (const TSharedPtr<SWidget> Parent = Root->GetParentWidget())
+	{
+		Root = Parent.ToSharedRef();
+	}
+	Root->SlatePrepass(1.0f);
+	FSlateWindowElementList Elements(nullptr);
+	FWidgetRenderer::PaintWidget(Root, Root->GetDesiredSize(), Elements);
+
+	TArray<FPaintedText> Lines;
+	const FSlateRect Area = Widget->GetPaintSpaceGeometry().GetLayoutBoundingRect();
+	for (const FSlateDrawElement& Element : Elements.GetUncachedDrawElements())
+	{
+		if (Element.GetElementType() != EElementType::ET_Text || !Area.ContainsPoint(Element.GetPosition()))
+		{
+			continue;
+		}
+		const FSlateTextPayload& Payload = Element.GetDataPayload<FSlateTextPayload>();
+		const FVector2D Size = Element.GetLocalSize() * static_cast<double>(Element.GetScale());
+		Lines.Add({FString(Payload.GetText()), Payload.GetFontInfo(), Payload.GetTint(), FSlateRect(Element.GetPosition(), Element.GetPosition() + Size), Element.GetDrawEffects()});
+	}
+	return Lines;
+}
+
+namespace
+{
+	FWidgetDriver::FPaintedText GetFirstPaintedLine(const STextBlock& TextBlock)
+	{
+		const TArray<FWidgetDriver::FPaintedText> Lines = FWidgetDriver::GetPaintedText(StaticCastSharedRef<SWidget>(const_cast<STextBlock&>(TextBlock).AsShared()));
+		checkf(Lines.Num() > 0, TEXT("The text block paints no text: it is empty or not shown"));
+		return Lines[0];
+	}
+}
+
 FSlateFontInfo FWidgetDriver::GetFont(const STextBlock& TextBlock)
 {
-	return TextBlock.GetFont();
+	return GetFirstPaintedLine(TextBlock).Font;
 }
 
 FSlateColor FWidgetDriver::GetColor(const STextBlock& TextBlock)
 {
-	return TextBlock.GetColorAndOpacity();
-}
-
-FMargin FWidgetDriver::GetMargin(const STextBlock& TextBlock)
-{
-	return TextBlock.GetMargin();
-}
-
-ETextJustify::Type FWidgetDriver::GetJustification(const STextBlock& TextBlock)
-{
-	return TextBlock.GetJustification();
-}
-
-bool FWidgetDriver::UsesAllottedSize(const SWrapBox& WrapBox)
-{
-	return WrapBox.bUseAllottedSize;
-}
-
-int32 FWidgetDriver::GetAttentionRequests(const SDockTab& Tab)
-{
-	return Tab.FlashCount;
+	return FSlateColor(GetFirstPaintedLine(TextBlock).Color);
 }
 
 bool FWidgetDriver::Click(const TSharedRef<SButton>& Button)
@@ -197,12 +217,39 @@ bool FWidgetDriver::ToggleCheckBox(const TSharedRef<SCheckBox>& CheckBox)
 
 bool FWidgetDriver::TypeText(const TSharedRef<SEditableTextBox>& TextBox, const FText& Text, ETextCommit::Type CommitType)
 {
-	if (!IsShown(TextBox) || !IsEffectivelyEnabled(TextBox) || TextBox->IsReadOnly.Get(false))
+	if (!IsShown(TextBox) || !IsEffectivelyEnabled(TextBox) || TextBox->IsReadOnly())
 	{
 		return false;
 	}
-	TextBox->HandleUserEdit(Text);
-	TextBox->HandleCommit(CommitType);
+	checkf(FSlateApplication::IsInitialized(), TEXT("Typing needs the Slate application"));
+	FSlateApplication& Application = FSlateApplication::Get();
+	Application.SetKeyboardFocus(TextBox, EFocusCause::Mouse);
+	const FModifierKeysState Control(false, false, true, false, false, false, false, false, false);
+	Application.ProcessKeyDownEvent(FKeyEvent(EKeys::A, Control, 0, false, 0, 0));
+	const FString Characters = Text.ToString();
+	if (Characters.IsEmpty())
+	{
+		Application.ProcessKeyDownEvent(FKeyEvent(EKeys::BackSpace, FModifierKeysState(), 0, false, 0, 0));
+	}
+	for (const TCHAR Character : Characters)
+	{
+		Application.ProcessKeyCharEvent(FCharacterEvent(Character, FModifierKeysState(), 0, false));
+	}
+	switch (CommitType)
+	{
+		case ETextCommit::OnEnter:
+			Application.ProcessKeyDownEvent(FKeyEvent(EKeys::Enter, FModifierKeysState(), 0, false, 0, 0));
+			break;
+		case ETextCommit::OnUserMovedFocus:
+			Application.ClearKeyboardFocus(EFocusCause::Mouse);
+			break;
+		case ETextCommit::OnCleared:
+			Application.ClearKeyboardFocus(EFocusCause::Cleared);
+			break;
+		default:
+			Application.ClearKeyboardFocus(EFocusCause::SetDirectly);
+			break;
+	}
 	return true;
 }
 
@@ -220,10 +267,4 @@ FString FWidgetDriver::DescribeTree(const TSharedRef<SWidget>& Root)
 	FString Description;
 	DescribeWidget(Root, 0, Description);
 	return Description;
-}
-
-TSharedPtr<const FTabSpawnerEntry> FWidgetDriver::FindNomadTabSpawner(FName TabId)
-{
-	const TSharedRef<FTabSpawnerEntry>* Entry = FGlobalTabmanager::Get()->NomadTabSpawner.Find(TabId);
-	return Entry ? TSharedPtr<const FTabSpawnerEntry>(*Entry) : TSharedPtr<const FTabSpawnerEntry>();
 }

@@ -2,19 +2,20 @@
 
 #include "CoreMinimal.h"
 #include "Framework/Text/TextLayout.h"
+#include "Layout/SlateRect.h"
+#include "Rendering/RenderingCommon.h"
+#include "HeadlessLists.h"
 #include "InputCoreTypes.h"
 #include "Styling/SlateTypes.h"
 #include "Types/SlateEnums.h"
 #include "Widgets/Input/SComboBox.h"
 #include "Widgets/SWidget.h"
+#include "Widgets/Views/SListView.h"
 
 class SButton;
 class SCheckBox;
-class SDockTab;
-struct FTabSpawnerEntry;
 class SEditableTextBox;
 class STextBlock;
-class SWrapBox;
 
 /**
  * Drives widget trees as a user would, where the engine would need a real window: finds widgets by
@@ -55,22 +56,37 @@ public:
 	/** Whether the widget and all its ancestors are enabled. */
 	static bool IsEffectivelyEnabled(const TSharedRef<SWidget>& Widget);
 
-	static FSlateFontInfo GetFont(const STextBlock& TextBlock);
-	static FSlateColor GetColor(const STextBlock& TextBlock);
-	static FMargin GetMargin(const STextBlock& TextBlock);
-	static ETextJustify::Type GetJustification(const STextBlock& TextBlock);
-	static bool UsesAllottedSize(const SWrapBox& WrapBox);
-	/** How many times a tab was asked to draw attention (invoked while already open). */
-	static int32 GetAttentionRequests(const SDockTab& Tab);
+	/** A line of text a widget paints. */
+	struct FPaintedText
+	{
+		FString Text;
+		FSlateFontInfo Font;
+		/** The colour the text is drawn in. */
+		FLinearColor Color;
+		/** Where the line's box is, in the window the widget is painted in. */
+		FSlateRect Rect;
+		ESlateDrawEffect Effects;
+	};
 
-	/** The nomad tab spawner registered under an id, as the editor's Window menu lists it; null if none. */
-	static TSharedPtr<const FTabSpawnerEntry> FindNomadTabSpawner(FName TabId);
+	/**
+	 * The lines of text a widget paints, as it is painted in its window: the root of its tree is laid
+	 * out at its desired size and painted, and the text inside the widget's painted area is read.
+	 */
+	static TArray<FPaintedText> GetPaintedText(const TSharedRef<SWidget>& Widget);
+
+	/** The font a text block draws its text in; the block must show some text. */
+	static FSlateFontInfo GetFont(const STextBlock& TextBlock);
+	/** The colour a text block draws its text in; the block must show some text. */
+	static FSlateColor GetColor(const STextBlock& TextBlock);
 
 	/** Clicks a button as a user would: only a shown, enabled button can be clicked. @return whether it was. */
 	static bool Click(const TSharedRef<SButton>& Button);
 	/** Clicks a check box as a user would (fires OnCheckStateChanged). @return whether it was clicked. */
 	static bool ToggleCheckBox(const TSharedRef<SCheckBox>& CheckBox);
-	/** Types a whole text into a box and commits it: OnTextChanged, then OnTextCommitted. */
+	/**
+	 * Types a whole text into a box as a user does: focuses it, selects what it holds, types each
+	 * character (OnTextChanged for each), then commits: Enter for OnEnter, leaving the box otherwise.
+	 */
 	static bool TypeText(const TSharedRef<SEditableTextBox>& TextBox, const FText& Text, ETextCommit::Type CommitType = ETextCommit::OnEnter);
 	/**
 	 * Focuses the widget and sends a key press through the application, which bubbles it up the
@@ -78,7 +94,10 @@ public:
 	 */
 	static bool PressKey(const TSharedRef<SWidget>& Widget, const FKey& Key);
 
-	/** Picks an option of an open combo box with the mouse. @return whether the combo could be used. */
+	/**
+	 * Opens a combo box and clicks the row of an option in its drop-down list, as a user picks an
+	 * option. @return whether the combo could be used.
+	 */
 	template <typename OptionType>
 	static bool PickComboItem(const TSharedRef<SComboBox<OptionType>>& ComboBox, const OptionType& Item)
 	{
@@ -86,31 +105,43 @@ public:
 		{
 			return false;
 		}
-		checkf(ComboBox->OptionsSource->Contains(Item), TEXT("The item is not one of the combo box's options"));
+		const TSharedRef<SListView<OptionType>> List = GetComboList(ComboBox);
+		checkf(UE::Headless::GetListItems(*List).Contains(Item), TEXT("The item is not one of the combo box's options"));
 		ComboBox->SetIsOpen(true);
-		ComboBox->OnSelectionChanged_Internal(Item, ESelectInfo::OnMouseClick);
+		List->SetSelection(Item, ESelectInfo::OnMouseClick);
 		return true;
 	}
 
-	/** The rows the open combo box would list, one per option, made by its OnGenerateWidget. */
+	/** The rows the combo box's drop-down lists, one per option, as it shows them when open. */
 	template <typename OptionType>
 	static TArray<TSharedRef<SWidget>> GenerateComboRows(const TSharedRef<SComboBox<OptionType>>& ComboBox)
 	{
-		TArray<TSharedRef<SWidget>> Rows;
-		for (const OptionType& Option : *ComboBox->OptionsSource)
-		{
-			Rows.Add(ComboBox->GenerateMenuItemRow(Option));
-		}
+		const bool bWasOpen = ComboBox->IsOpen();
+		ComboBox->SetIsOpen(true);
+		const TArray<TSharedRef<SWidget>> Rows = GetChildWidgets(GetChildWidgets(GetComboList(ComboBox))[0]);
+		ComboBox->SetIsOpen(bWasOpen);
 		return Rows;
 	}
 
-	/** The options a combo box lists. */
+	/** The options a combo box's drop-down lists. */
 	template <typename OptionType>
 	static const TArray<OptionType>& GetComboOptions(const TSharedRef<SComboBox<OptionType>>& ComboBox)
 	{
-		return *ComboBox->OptionsSource;
+		return UE::Headless::GetListItems(*GetComboList(ComboBox));
 	}
 
 	/** An indented outline of the tree, one line per widget: type, "text" (escaped as FPrintableText does), visibility, enabled state. */
 	static FString DescribeTree(const TSharedRef<SWidget>& Root);
+
+private:
+	/** The list view of a combo box's drop-down. */
+	template <typename OptionType>
+	static TSharedRef<SListView<OptionType>> GetComboList(const TSharedRef<SComboBox<OptionType>>& ComboBox)
+	{
+		const TSharedPtr<SWidget> Menu = UE::Headless::GetMenuContent(*ComboBox);
+		checkf(Menu.IsValid(), TEXT("The combo box has no drop-down"));
+		const TSharedPtr<SWidget> List = FindWidget(Menu.ToSharedRef(), TEXT("SComboListType"));
+		checkf(List.IsValid(), TEXT("The combo box's drop-down has no list"));
+		return StaticCastSharedRef<SListView<OptionType>>(List.ToSharedRef());
+	}
 };

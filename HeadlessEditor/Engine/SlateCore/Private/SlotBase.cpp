@@ -55,7 +55,7 @@ void FSlotBase::DetachParentFromContent()
 {
 	if (SWidget* OwnerWidget = GetOwnerWidget())
 	{
-		Widget->ConditionallyDetachParentWidget(OwnerWidget);
+		Widget->ConditionallyDetatchParentWidget(OwnerWidget);
 	}
 }
 

@@ -2,6 +2,7 @@
 
 #include "CoreTypes.h"
 
+class FString;
 struct FColor;
 
 /** A colour with 32-bit floating-point components, in linear space. */
@@ -27,6 +28,36 @@ struct CORE_API FLinearColor
 		, A(0)
 	{
 	}
+	/** Converts an sRGB colour to linear space; alpha is kept as it is. */
+	FLinearColor(const FColor& Color);
+
+	/** Converts a linear colour to 8 bits per channel, through the sRGB curve when bSRGB is true. */
+	FColor ToFColor(const bool bSRGB) const;
+	static FLinearColor FromSRGBColor(const FColor& Color);
+
+	FLinearColor operator+(const FLinearColor& ColorB) const { return FLinearColor(R + ColorB.R, G + ColorB.G, B + ColorB.B, A + ColorB.A); }
+	FLinearColor operator-(const FLinearColor& ColorB) const { return FLinearColor(R - ColorB.R, G - ColorB.G, B - ColorB.B, A - ColorB.A); }
+	FLinearColor operator*(const FLinearColor& ColorB) const { return FLinearColor(R * ColorB.R, G * ColorB.G, B * ColorB.B, A * ColorB.A); }
+	FLinearColor operator*(float Scalar) const { return FLinearColor(R * Scalar, G * Scalar, B * Scalar, A * Scalar); }
+	FLinearColor& operator*=(const FLinearColor& ColorB)
+	{
+		R *= ColorB.R;
+		G *= ColorB.G;
+		B *= ColorB.B;
+		A *= ColorB.A;
+		return *this;
+	}
+	FLinearColor& operator*=(float Scalar)
+	{
+		R *= Scalar;
+		G *= Scalar;
+		B *= Scalar;
+		A *= Scalar;
+		return *this;
+	}
+
+	FLinearColor CopyWithNewOpacity(float NewOpacity) const { return FLinearColor(R, G, B, NewOpacity); }
+	float GetLuminance() const { return R * 0.3f + G * 0.59f + B * 0.11f; }
 
 	bool operator==(const FLinearColor& Other) const { return R == Other.R && G == Other.G && B == Other.B && A == Other.A; }
 	bool operator!=(const FLinearColor& Other) const { return !(*this == Other); }
@@ -59,4 +90,11 @@ struct CORE_API FColor
 	{
 	}
 	bool operator==(const FColor& Other) const { return R == Other.R && G == Other.G && B == Other.B && A == Other.A; }
+	bool operator!=(const FColor& Other) const { return !(*this == Other); }
+
+	/** Reads "RRGGBB" or "RRGGBBAA", with or without a leading '#'; a missing alpha is opaque. */
+	static FColor FromHex(const FString& HexString);
+
+	/** Converts to linear space; unlike FLinearColor(FColor), this does not go through the sRGB curve. */
+	FLinearColor ReinterpretAsLinear() const;
 };

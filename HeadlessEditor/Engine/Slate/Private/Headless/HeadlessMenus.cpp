@@ -1,7 +1,9 @@
-#include "Headless/HeadlessMenus.h"
+#include "HeadlessMenus.h"
 
 #include "Framework/MultiBox/MenuBlocks.h"
 #include "Framework/MultiBox/MultiBox.h"
+#include "Layout/Children.h"
+#include "Widgets/SBoxPanel.h"
 
 namespace
 {
@@ -18,7 +20,7 @@ namespace
 		{
 			return Block.GetActionList().IsValid() ? Block.GetActionList()->GetActionForCommand(Block.GetAction()) : nullptr;
 		}
-		return Block.GetDirectActions();
+		return &Block.GetDirectActions();
 	}
 
 	UE::Headless::FMenuLine ReadEntry(const FMenuEntryBlock& Entry)
@@ -43,7 +45,7 @@ namespace
 		}
 		const FUIAction* Action = FindAction(Entry);
 		// As the engine's menu entry: a command asks its list, which enables commands it has no action for.
-		Line.bEnabled = Command.IsValid() && Entry.GetActionList().IsValid() ? Entry.GetActionList()->CanExecuteAction(Command.ToSharedRef()) : Entry.GetDirectActions()->CanExecute();
+		Line.bEnabled = Command.IsValid() && Entry.GetActionList().IsValid() ? Entry.GetActionList()->CanExecuteAction(Command.ToSharedRef()) : Entry.GetDirectActions().CanExecute();
 		Line.CheckState = Action ? Action->GetCheckState() : ECheckBoxState::Unchecked;
 		return Line;
 	}
@@ -88,8 +90,16 @@ TArray<UE::Headless::FMenuLine> UE::Headless::ReadMenu(const TSharedRef<SWidget>
 
 TOptional<float> UE::Headless::GetMenuMaxHeight(const TSharedRef<SWidget>& MenuWidget)
 {
-	const TAttribute<float>& MaxHeight = AsMenuWidget(MenuWidget).GetMaxHeight();
-	return MaxHeight.IsSet() ? TOptional<float>(MaxHeight.Get()) : TOptional<float>();
+	// A capped menu holds its scroll box in a vertical box slot whose max height is the cap.
+	AsMenuWidget(MenuWidget);
+	const TSharedRef<SWidget> RootBorder = MenuWidget->GetChildren()->GetChildAt(0);
+	const TSharedRef<SWidget> MainWidget = RootBorder->GetChildren()->GetChildAt(0);
+	if (MainWidget->GetType() != TEXT("SVerticalBox"))
+	{
+		return TOptional<float>();
+	}
+	const float MaxHeight = StaticCastSharedRef<SVerticalBox>(MainWidget)->GetSlot(0).GetMaxSize();
+	return MaxHeight > 0.0f ? TOptional<float>(MaxHeight) : TOptional<float>();
 }
 
 bool UE::Headless::ClickMenuEntry(const TSharedRef<SWidget>& MenuWidget, const FString& Label)

@@ -7,8 +7,9 @@ FSlateFontInfo::FSlateFontInfo()
 {
 }
 
-FSlateFontInfo::FSlateFontInfo(const FName& InTypefaceFontName, const int32 InSize, const FFontOutlineSettings& InOutlineSettings)
-	: TypefaceFontName(InTypefaceFontName)
+FSlateFontInfo::FSlateFontInfo(TSharedPtr<const FCompositeFont> InCompositeFont, const int32 InSize, const FName& InTypefaceFontName, const FFontOutlineSettings& InOutlineSettings)
+	: CompositeFont(InCompositeFont)
+	, TypefaceFontName(InTypefaceFontName)
 	, Size(InSize)
 	, OutlineSettings(InOutlineSettings)
 {

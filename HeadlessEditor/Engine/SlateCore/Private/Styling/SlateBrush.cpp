@@ -1,5 +1,8 @@
 #include "Styling/SlateBrush.h"
 
+#include "Application/SlateApplicationBase.h"
+#include "Rendering/SlateRenderer.h"
+
 FSlateBrush::FSlateBrush()
 	: ImageSize(32.0, 32.0)
 	, Margin(0.0f)
@@ -41,4 +44,28 @@ FSlateBrush::FSlateBrush(ESlateBrushDrawType::Type InDrawType, const FName InRes
 	, ImageType(InImageType)
 	, ResourceName(InResourceName)
 {
+}
+
+const FSlateResourceHandle& FSlateBrush::GetRenderingResource(FVector2D LocalSize, float DrawScale) const
+{
+	UpdateRenderingResource(FVector2f(LocalSize), DrawScale);
+	return ResourceHandle;
+}
+
+const FSlateResourceHandle& FSlateBrush::GetRenderingResource() const
+{
+	UpdateRenderingResource(FVector2f(ImageSize), 1.0f);
+	return ResourceHandle;
+}
+
+void FSlateBrush::UpdateRenderingResource(FVector2f LocalSize, float DrawScale) const
+{
+	// Only brushes that name an image have a texture; colour and rounded boxes draw without one.
+	if (DrawAs != ESlateBrushDrawType::NoDrawType && ResourceName != NAME_None && !ResourceHandle.IsValid() && FSlateApplicationBase::IsInitialized())
+	{
+		if (FSlateRenderer* Renderer = FSlateApplicationBase::Get().GetRenderer())
+		{
+			ResourceHandle = Renderer->GetResourceHandle(*this, LocalSize, DrawScale);
+		}
+	}
 }

@@ -34,18 +34,24 @@ const FName& FSlateStyleSet::GetStyleSetName() const
 
 void FSlateStyleSet::GetResources(TArray<const FSlateBrush*>& OutResources) const
 {
+	for (const TPair<FName, TSharedRef<FSlateWidgetStyle>>& Pair : WidgetStyleValues)
+	{
+		Pair.Value->GetResources(OutResources);
+	}
 	for (const TPair<FName, FSlateBrush*>& Pair : BrushResources)
 	{
 		OutResources.Add(Pair.Value);
 	}
 }
 
-void FSlateStyleSet::GetBrushKeys(TArray<FName>& OutKeys) const
+const FSlateWidgetStyle* FSlateStyleSet::GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, const FSlateWidgetStyle* DefaultStyle, bool bWarnIfNotFound) const
 {
-	for (const TPair<FName, FSlateBrush*>& Pair : BrushResources)
+	const TSharedRef<FSlateWidgetStyle>* Found = WidgetStyleValues.Find(StyleName);
+	if (Found && (*Found)->GetTypeName() == DesiredTypeName)
 	{
-		OutKeys.Add(Pair.Key);
+		return &Found->Get();
 	}
+	return DefaultStyle;
 }
 
 void FSlateStyleSet::SetContentRoot(const FString& InContentRootDir)
@@ -101,7 +107,7 @@ const FSlateBrush* FSlateStyleSet::GetOptionalBrush(const FName PropertyName, co
 	return Found ? *Found : InDefaultBrush;
 }
 
-const FSlateBrush* FSlateStyleSet::GetDefaultBrush() const
+FSlateBrush* FSlateStyleSet::GetDefaultBrush() const
 {
 	return DefaultBrush;
 }
@@ -122,4 +128,21 @@ void FSlateStyleSet::SetBrush(const FName PropertyName, FSlateBrush* InBrush)
 		return;
 	}
 	BrushResources.Add(PropertyName, InBrush);
+}
+
+const FLinearColor& FSlateStyleSet::GetColor(const FName PropertyName, const ANSICHAR* Specifier, const FLinearColor& DefaultValue, const ISlateStyle* RequestingStyle) const
+{
+	const FLinearColor* Found = ColorValues.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : DefaultValue;
+}
+
+const FSlateColor FSlateStyleSet::GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier, const FSlateColor& DefaultValue, const ISlateStyle* RequestingStyle) const
+{
+	const FName Key = Join(PropertyName, Specifier);
+	if (const FSlateColor* Found = SlateColorValues.Find(Key))
+	{
+		return *Found;
+	}
+	const FLinearColor* Color = ColorValues.Find(Key);
+	return Color ? FSlateColor(*Color) : DefaultValue;
 }

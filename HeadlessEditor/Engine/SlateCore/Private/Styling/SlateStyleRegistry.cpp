@@ -38,7 +38,7 @@ const ISlateStyle* FSlateStyleRegistry::FindSlateStyle(const FName& InSlateStyle
 	return Style ? *Style : nullptr;
 }
 
-bool FSlateStyleRegistry::IterateAllStyles(TFunctionRef<bool(const ISlateStyle&)> Iter)
+bool FSlateStyleRegistry::IterateAllStyles(const TFunctionRef<bool(const ISlateStyle&)>& Iter)
 {
 	for (const TPair<FName, const ISlateStyle*>& Pair : GetRepository())
 	{

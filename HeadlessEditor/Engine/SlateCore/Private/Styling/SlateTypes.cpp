@@ -1,20 +1,33 @@
 #include "Styling/SlateTypes.h"
 
-#include "Styling/CoreStyle.h"
+#include "Brushes/SlateColorBrush.h"
+#include "Brushes/SlateNoResource.h"
+#include "Styling/StyleColors.h"
+#include "Styling/StyleDefaults.h"
 
 const FName FTextBlockStyle::TypeName(TEXT("FTextBlockStyle"));
 const FName FButtonStyle::TypeName(TEXT("FButtonStyle"));
 const FName FCheckBoxStyle::TypeName(TEXT("FCheckBoxStyle"));
 const FName FComboButtonStyle::TypeName(TEXT("FComboButtonStyle"));
 const FName FComboBoxStyle::TypeName(TEXT("FComboBoxStyle"));
+const FName FEditableTextStyle::TypeName(TEXT("FEditableTextStyle"));
 const FName FEditableTextBoxStyle::TypeName(TEXT("FEditableTextBoxStyle"));
+const FName FScrollBarStyle::TypeName(TEXT("FScrollBarStyle"));
 const FName FScrollBoxStyle::TypeName(TEXT("FScrollBoxStyle"));
 const FName FTableRowStyle::TypeName(TEXT("FTableRowStyle"));
 
 FTextBlockStyle::FTextBlockStyle()
-	: Font(FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 10))
-	, ColorAndOpacity(FSlateColor::UseForeground())
+	: ShadowOffset(FVector2D::ZeroVector)
+	, ShadowColorAndOpacity(FLinearColor::Black)
+	, SelectedBackgroundColor(FSlateColor::UseForeground())
+	, HighlightColor(FLinearColor::Black)
 {
+}
+
+void FTextBlockStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Add(&HighlightShape);
+	OutBrushes.Add(&UnderlineBrush);
 }
 
 const FTextBlockStyle& FTextBlockStyle::GetDefault()
@@ -23,7 +36,19 @@ const FTextBlockStyle& FTextBlockStyle::GetDefault()
 	return Default;
 }
 
-FButtonStyle::FButtonStyle() = default;
+FButtonStyle::FButtonStyle()
+	: NormalForeground(FSlateColor::UseForeground())
+	, HoveredForeground(FSlateColor::UseForeground())
+	, PressedForeground(FSlateColor::UseForeground())
+	, DisabledForeground(FSlateColor::UseForeground())
+{
+	Disabled = FSlateNoResource();
+}
+
+void FButtonStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&Normal, &Hovered, &Pressed, &Disabled});
+}
 
 const FButtonStyle& FButtonStyle::GetDefault()
 {
@@ -31,7 +56,27 @@ const FButtonStyle& FButtonStyle::GetDefault()
 	return Default;
 }
 
-FCheckBoxStyle::FCheckBoxStyle() = default;
+FCheckBoxStyle::FCheckBoxStyle()
+	: CheckBoxType(ESlateCheckBoxType::CheckBox)
+	, Padding(FMargin(2, 0, 0, 0))
+	, BackgroundImage(FSlateNoResource())
+	, BackgroundHoveredImage(FSlateNoResource())
+	, BackgroundPressedImage(FSlateNoResource())
+	, ForegroundColor(FSlateColor::UseForeground())
+	, HoveredForeground(FSlateColor::UseForeground())
+	, PressedForeground(FSlateColor::UseForeground())
+	, CheckedForeground(FSlateColor::UseForeground())
+	, CheckedHoveredForeground(FSlateColor::UseForeground())
+	, CheckedPressedForeground(FSlateColor::UseForeground())
+	, UndeterminedForeground(FSlateColor::UseForeground())
+	, BorderBackgroundColor(FLinearColor::White)
+{
+}
+
+void FCheckBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&UncheckedImage, &UncheckedHoveredImage, &UncheckedPressedImage, &CheckedImage, &CheckedHoveredImage, &CheckedPressedImage, &UndeterminedImage, &UndeterminedHoveredImage, &UndeterminedPressedImage, &BackgroundImage, &BackgroundHoveredImage, &BackgroundPressedImage});
+}
 
 const FCheckBoxStyle& FCheckBoxStyle::GetDefault()
 {
@@ -39,7 +84,21 @@ const FCheckBoxStyle& FCheckBoxStyle::GetDefault()
 	return Default;
 }
 
-FComboButtonStyle::FComboButtonStyle() = default;
+FComboButtonStyle::FComboButtonStyle()
+	: ShadowOffset(FVector2D::ZeroVector)
+	, ShadowColorAndOpacity(FLinearColor::Black)
+	, MenuBorderPadding(0.0f)
+	, ContentPadding(5.0f)
+	, DownArrowPadding(2.0f)
+	, DownArrowAlign(VAlign_Center)
+{
+}
+
+void FComboButtonStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	ButtonStyle.GetResources(OutBrushes);
+	OutBrushes.Append({&DownArrowImage, &MenuBorderBrush});
+}
 
 const FComboButtonStyle& FComboButtonStyle::GetDefault()
 {
@@ -47,7 +106,17 @@ const FComboButtonStyle& FComboButtonStyle::GetDefault()
 	return Default;
 }
 
-FComboBoxStyle::FComboBoxStyle() = default;
+FComboBoxStyle::FComboBoxStyle()
+	: ContentPadding(FMargin(4.0f, 2.0f))
+	, MenuRowPadding(FMargin(0.0f))
+{
+	ComboButtonStyle.SetMenuBorderPadding(FMargin(1.0f));
+}
+
+void FComboBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	ComboButtonStyle.GetResources(OutBrushes);
+}
 
 const FComboBoxStyle& FComboBoxStyle::GetDefault()
 {
@@ -55,10 +124,42 @@ const FComboBoxStyle& FComboBoxStyle::GetDefault()
 	return Default;
 }
 
-FEditableTextBoxStyle::FEditableTextBoxStyle()
-	: Font(FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9))
-	, ForegroundColor(FSlateColor::UseForeground())
+FEditableTextStyle::FEditableTextStyle()
+	: Font(FStyleDefaults::GetFontInfo(9))
+	, ColorAndOpacity(FSlateColor::UseForeground())
 {
+}
+
+void FEditableTextStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&BackgroundImageSelected, &CaretImage});
+}
+
+const FEditableTextStyle& FEditableTextStyle::GetDefault()
+{
+	static const FEditableTextStyle Default;
+	return Default;
+}
+
+FEditableTextBoxStyle::FEditableTextBoxStyle()
+	: Padding(FMargin(4.0f, 2.0f))
+	, TextStyle(FTextBlockStyle()
+					.SetFont(FStyleDefaults::GetFontInfo(9))
+					.SetColorAndOpacity(FSlateColor::UseForeground())
+					.SetSelectedBackgroundColor(FStyleColors::Highlight)
+					.SetHighlightColor(FStyleColors::Black)
+					.SetHighlightShape(FSlateColorBrush(FStyleColors::AccentGreen)))
+	, ForegroundColor(FSlateColor::UseForeground())
+	, BackgroundColor(FLinearColor::White)
+	, ReadOnlyForegroundColor(FSlateColor::UseForeground())
+	, FocusedForegroundColor(FSlateColor::UseForeground())
+{
+}
+
+void FEditableTextBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&BackgroundImageNormal, &BackgroundImageHovered, &BackgroundImageFocused, &BackgroundImageReadOnly});
+	TextStyle.GetResources(OutBrushes);
 }
 
 const FEditableTextBoxStyle& FEditableTextBoxStyle::GetDefault()
@@ -67,7 +168,40 @@ const FEditableTextBoxStyle& FEditableTextBoxStyle::GetDefault()
 	return Default;
 }
 
-FScrollBoxStyle::FScrollBoxStyle() = default;
+FScrollBarStyle::FScrollBarStyle()
+	: HorizontalBackgroundImage(FSlateNoResource())
+	, VerticalBackgroundImage(FSlateNoResource())
+	, VerticalTopSlotImage(FSlateNoResource())
+	, HorizontalTopSlotImage(FSlateNoResource())
+	, VerticalBottomSlotImage(FSlateNoResource())
+	, HorizontalBottomSlotImage(FSlateNoResource())
+	, NormalThumbImage(FSlateNoResource())
+	, HoveredThumbImage(FSlateNoResource())
+	, DraggedThumbImage(FSlateNoResource())
+	, Thickness(16.0f)
+{
+}
+
+void FScrollBarStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&HorizontalBackgroundImage, &VerticalBackgroundImage, &VerticalTopSlotImage, &HorizontalTopSlotImage, &VerticalBottomSlotImage, &HorizontalBottomSlotImage, &NormalThumbImage, &HoveredThumbImage, &DraggedThumbImage});
+}
+
+const FScrollBarStyle& FScrollBarStyle::GetDefault()
+{
+	static const FScrollBarStyle Default;
+	return Default;
+}
+
+FScrollBoxStyle::FScrollBoxStyle()
+	: BarThickness(9.0f)
+{
+}
+
+void FScrollBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&TopShadowBrush, &BottomShadowBrush, &LeftShadowBrush, &RightShadowBrush});
+}
 
 const FScrollBoxStyle& FScrollBoxStyle::GetDefault()
 {
@@ -75,10 +209,35 @@ const FScrollBoxStyle& FScrollBoxStyle::GetDefault()
 	return Default;
 }
 
-FTableRowStyle::FTableRowStyle() = default;
+FTableRowStyle::FTableRowStyle()
+	: TextColor(FSlateColor::UseForeground())
+	, SelectedTextColor(FLinearColor::White)
+{
+}
+
+void FTableRowStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&SelectorFocusedBrush, &ActiveHoveredBrush, &ActiveBrush, &EvenRowBackgroundBrush, &OddRowBackgroundBrush});
+}
 
 const FTableRowStyle& FTableRowStyle::GetDefault()
 {
 	static const FTableRowStyle Default;
+	return Default;
+}
+
+const FName FDockTabStyle::TypeName(TEXT("FDockTabStyle"));
+
+FDockTabStyle::FDockTabStyle() = default;
+
+void FDockTabStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&ContentAreaBrush, &TabWellBrush});
+	TabTextStyle.GetResources(OutBrushes);
+}
+
+const FDockTabStyle& FDockTabStyle::GetDefault()
+{
+	static const FDockTabStyle Default;
 	return Default;
 }

@@ -1,8 +1,11 @@
 #include "Styling/StyleDefaults.h"
 
+#include "Styling/CoreStyle.h"
+
 float FStyleDefaults::DefaultFloat = 0.0f;
 FVector2D FStyleDefaults::DefaultFVector2D = FVector2D(0.0, 0.0);
 FLinearColor FStyleDefaults::DefaultColor = FLinearColor(1.0f, 1.0f, 1.0f, 1.0f);
+FSlateColor FStyleDefaults::DefaultSlateColor = FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
 FMargin FStyleDefaults::DefaultMargin = FMargin(0.0f);
 
 namespace
@@ -20,3 +23,8 @@ namespace
 }
 
 const FSlateBrush* FStyleDefaults::NoBrush = &NoBrushInstance;
+
+const FSlateFontInfo FStyleDefaults::GetFontInfo(uint16 Size)
+{
+	return FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), Size);
+}

@@ -2,7 +2,16 @@
 
 #include "Layout/Children.h"
 
+void SLeafWidget::SetVisibility(TAttribute<EVisibility> InVisibility)
+{
+	SWidget::SetVisibility(MoveTemp(InVisibility));
+}
+
 FChildren* SLeafWidget::GetChildren()
 {
 	return &FNoChildren::NoChildrenInstance;
+}
+
+void SLeafWidget::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
+{
 }

@@ -13,6 +13,10 @@ namespace
 			SetDebugInfo("SNullWidget", __FILE__, __LINE__, sizeof(SNullWidgetContent));
 			SetVisibility(EVisibility::SelfHitTestInvisible);
 		}
+
+	private:
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override { return LayerId; }
+		virtual FVector2D ComputeDesiredSize(float) const override { return FVector2D::ZeroVector; }
 	};
 }
 

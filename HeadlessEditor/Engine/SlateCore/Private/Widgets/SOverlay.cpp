@@ -1,5 +1,11 @@
 #include "Widgets/SOverlay.h"
 
+#include "Layout/ArrangedChildren.h"
+#include "Layout/LayoutUtils.h"
+#include "Types/PaintArgs.h"
+
+#include <algorithm>
+
 SOverlay::FOverlaySlot::FSlotArguments SOverlay::Slot()
 {
 	return FOverlaySlot::FSlotArguments(MakeUnique<FOverlaySlot>(0));
@@ -42,15 +48,60 @@ SOverlay::FScopedWidgetSlotArguments SOverlay::AddSlot(int32 ZOrder)
 	return FScopedWidgetSlotArguments{MakeUnique<FOverlaySlot>(ZOrder), Children, InsertIndex};
 }
 
-bool SOverlay::RemoveSlot(int32 ZOrder)
+void SOverlay::RemoveSlot(int32 ZOrder)
 {
+	if (ZOrder == INDEX_NONE)
+	{
+		if (Children.Num() > 0)
+		{
+			Children.RemoveAt(Children.Num() - 1);
+		}
+		return;
+	}
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
 		if (Children[Index].ZOrder == ZOrder)
 		{
 			Children.RemoveAt(Index);
-			return true;
+			return;
 		}
 	}
-	return false;
+}
+
+void SOverlay::OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const
+{
+	// Every layer gets the whole overlay, placed by its own padding and alignment.
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		ArrangeSingleChild(AllottedGeometry, ArrangedChildren, Children[Index], FVector2D(1.0, 1.0));
+	}
+}
+
+FVector2D SOverlay::ComputeDesiredSize(float) const
+{
+	FVector2D MaxSize(0.0, 0.0);
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		const FOverlaySlot& Slot = Children[Index];
+		if (Slot.GetWidget()->GetVisibility() != EVisibility::Collapsed)
+		{
+			MaxSize = MaxSize.ComponentMax(Slot.GetWidget()->GetDesiredSize() + Slot.GetPadding().GetDesiredSize());
+		}
+	}
+	return MaxSize;
+}
+
+int32 SOverlay::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+{
+	FArrangedChildren ArrangedChildren(EVisibility::Visible);
+	ArrangeChildren(AllottedGeometry, ArrangedChildren);
+	int32 MaxLayerId = LayerId;
+	const FPaintArgs NewArgs = Args.WithNewParent(this);
+	const bool bShouldBeEnabled = ShouldBeEnabled(bParentEnabled);
+	for (int32 ChildIndex = 0; ChildIndex < ArrangedChildren.Num(); ++ChildIndex)
+	{
+		const FArrangedWidget& Child = ArrangedChildren[ChildIndex];
+		MaxLayerId = std::max(MaxLayerId, Child.Widget->Paint(NewArgs, Child.Geometry, MyCullingRect, OutDrawElements, MaxLayerId + 1, InWidgetStyle, bShouldBeEnabled));
+	}
+	return MaxLayerId;
 }

@@ -1,6 +1,12 @@
 #include "Widgets/SWidget.h"
 
 #include "Application/SlateApplicationBase.h"
+#include "Layout/ArrangedChildren.h"
+#include "Layout/Children.h"
+#include "Rendering/DrawElements.h"
+#include "Styling/SlateColor.h"
+#include "Styling/WidgetStyle.h"
+#include "Types/PaintArgs.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/IToolTip.h"
 
@@ -8,6 +14,10 @@ SWidget::SWidget()
 	: EnabledStateAttribute(true)
 	, VisibilityAttribute(EVisibility::Visible)
 	, TypeOfWidget(TEXT("SWidget"))
+	, bNeedsPrepass(true)
+	, bCanTick(true)
+	, RenderOpacity(1.0f)
+	, Clipping(EWidgetClipping::Inherit)
 {
 }
 
@@ -16,6 +26,8 @@ SWidget::~SWidget() = default;
 void SWidget::SWidgetConstruct(const FSlateBaseNamedArgs& Args)
 {
 	EnabledStateAttribute = Args._IsEnabled;
+	RenderOpacity = Args._RenderOpacity;
+	Clipping = Args._Clipping;
 	VisibilityAttribute = Args._Visibility;
 	Tag = Args._Tag;
 	if (Args._ToolTip.IsSet())
@@ -31,6 +43,24 @@ void SWidget::SWidgetConstruct(const FSlateBaseNamedArgs& Args)
 void SWidget::SetDebugInfo(const ANSICHAR* InType, const ANSICHAR* InFile, int32 OnLine, size_t InAllocSize)
 {
 	TypeOfWidget = FName(InType);
+}
+
+void SWidget::Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime)
+{
+}
+
+FReply SWidget::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	return FReply::Unhandled();
+}
+
+void SWidget::OnFocusLost(const FFocusEvent& InFocusEvent)
+{
+}
+
+FReply SWidget::OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent)
+{
+	return FReply::Unhandled();
 }
 
 FReply SWidget::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
@@ -102,7 +132,7 @@ void SWidget::AssignParentWidget(TSharedPtr<SWidget> InParent)
 	}
 }
 
-bool SWidget::ConditionallyDetachParentWidget(SWidget* InExpectedParent)
+bool SWidget::ConditionallyDetatchParentWidget(SWidget* InExpectedParent)
 {
 	if (ParentWidgetPtr.Pin().Get() == InExpectedParent)
 	{
@@ -130,4 +160,100 @@ FName SWidget::GetTag() const
 FString SWidget::ToString() const
 {
 	return GetTypeAsString();
+}
+
+const FGeometry& SWidget::GetPaintSpaceGeometry() const
+{
+	return PaintSpaceGeometry;
+}
+
+void SWidget::SlatePrepass()
+{
+	SlatePrepass(FSlateApplicationBase::IsInitialized() ? FSlateApplicationBase::Get().GetApplicationScale() : 1.0f);
+}
+
+void SWidget::SlatePrepass(float InLayoutScaleMultiplier)
+{
+	Prepass_Internal(InLayoutScaleMultiplier);
+}
+
+void SWidget::Prepass_Internal(float InLayoutScaleMultiplier)
+{
+	PrepassLayoutScaleMultiplier = InLayoutScaleMultiplier;
+	// Children first: a widget's desired size is made of theirs.
+	Prepass_ChildLoop(InLayoutScaleMultiplier, GetChildren());
+	CacheDesiredSize(InLayoutScaleMultiplier);
+	bNeedsPrepass = false;
+}
+
+void SWidget::Prepass_ChildLoop(float InLayoutScaleMultiplier, FChildren* MyChildren)
+{
+	MyChildren->ForEachWidget([InLayoutScaleMultiplier](SWidget& Child)
+		{
+			if (Child.GetVisibility() != EVisibility::Collapsed)
+			{
+				Child.Prepass_Internal(InLayoutScaleMultiplier);
+			}
+			else
+			{
+				// A collapsed child is sized when it shows again.
+				Child.MarkPrepassAsDirty();
+				Child.PrepassLayoutScaleMultiplier = InLayoutScaleMultiplier;
+			} });
+}
+
+void SWidget::CacheDesiredSize(float InLayoutScaleMultiplier)
+{
+	DesiredSize = FVector2f(ComputeDesiredSize(InLayoutScaleMultiplier));
+}
+
+FVector2D SWidget::GetDesiredSize() const
+{
+	return FVector2D(DesiredSize.Get(FVector2f::ZeroVector));
+}
+
+void SWidget::ArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren, bool bUpdateAttributes) const
+{
+	OnArrangeChildren(AllottedGeometry, ArrangedChildren);
+}
+
+FSlateColor SWidget::GetForegroundColor() const
+{
+	return FSlateColor::UseForeground();
+}
+
+FSlateColor SWidget::GetDisabledForegroundColor() const
+{
+	return GetForegroundColor();
+}
+
+int32 SWidget::Paint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+{
+	SWidget* MutableThis = const_cast<SWidget*>(this);
+	MutableThis->PaintSpaceGeometry = AllottedGeometry;
+	if (bCanTick)
+	{
+		MutableThis->Tick(AllottedGeometry, Args.GetCurrentTime(), Args.GetDeltaTime());
+	}
+
+	// A clipping widget cuts its content to its bounds; OnDemand clips only content larger than the bounds.
+	const FVector2D LocalSize = AllottedGeometry.GetLocalSize();
+	const bool bClip = Clipping == EWidgetClipping::ClipToBounds || Clipping == EWidgetClipping::ClipToBoundsAlways || Clipping == EWidgetClipping::ClipToBoundsWithoutIntersecting || (Clipping == EWidgetClipping::OnDemand && (GetDesiredSize().X > LocalSize.X || GetDesiredSize().Y > LocalSize.Y));
+	FSlateRect CullingBounds = MyCullingRect;
+	if (bClip)
+	{
+		FSlateClippingZone ClippingZone(AllottedGeometry);
+		ClippingZone.SetShouldIntersectParent(Clipping != EWidgetClipping::ClipToBoundsWithoutIntersecting);
+		OutDrawElements.PushClip(ClippingZone);
+		CullingBounds = MyCullingRect.IntersectionWith(AllottedGeometry.GetLayoutBoundingRect());
+	}
+
+	const FWidgetStyle ContentWidgetStyle = FWidgetStyle(InWidgetStyle).BlendOpacity(RenderOpacity);
+	const int32 NewLayerId = OnPaint(Args.WithNewParent(this), AllottedGeometry, CullingBounds, OutDrawElements, LayerId, ContentWidgetStyle, bParentEnabled);
+
+	if (bClip)
+	{
+		OutDrawElements.PopClip();
+	}
+	return NewLayerId;
 }

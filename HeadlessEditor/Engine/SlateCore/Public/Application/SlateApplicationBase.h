@@ -26,6 +26,9 @@ public:
 
 	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const = 0;
 
+	/** How much the whole user interface is scaled. */
+	virtual float GetApplicationScale() const = 0;
+
 	/** Makes the standard tooltip widget showing the given text. */
 	virtual TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) = 0;
 	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) = 0;

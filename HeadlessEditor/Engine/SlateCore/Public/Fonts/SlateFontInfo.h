@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Fonts/CompositeFont.h"
 
 /** Settings for an outline drawn around text. */
 struct SLATECORE_API FFontOutlineSettings
@@ -31,6 +32,9 @@ struct SLATECORE_API FFontOutlineSettings
 /** A font: which typeface of the font family to use, at which size. */
 struct SLATECORE_API FSlateFontInfo
 {
+	/** The font family; the core style's default family unless set. */
+	TSharedPtr<const FCompositeFont> CompositeFont;
+
 	/** The name of the font to use from the default typeface (None will use the first entry) */
 	FName TypefaceFontName;
 
@@ -45,11 +49,16 @@ struct SLATECORE_API FSlateFontInfo
 
 	FSlateFontInfo();
 
-	/** Makes a font of the default font family; the headless editor loads no font files. */
-	FSlateFontInfo(const FName& InTypefaceFontName, const int32 InSize, const FFontOutlineSettings& InOutlineSettings);
+	/** A typeface of a font family at a size. */
+	FSlateFontInfo(TSharedPtr<const FCompositeFont> InCompositeFont, const int32 InSize, const FName& InTypefaceFontName = NAME_None, const FFontOutlineSettings& InOutlineSettings = FFontOutlineSettings());
 
 	/** Whether this font info is the same font, typeface, size and outline as another. */
-	bool IsIdenticalTo(const FSlateFontInfo& Other) const { return TypefaceFontName == Other.TypefaceFontName && Size == Other.Size && LetterSpacing == Other.LetterSpacing && OutlineSettings.IsIdenticalTo(Other.OutlineSettings); }
+	bool IsIdenticalTo(const FSlateFontInfo& Other) const { return CompositeFont == Other.CompositeFont && TypefaceFontName == Other.TypefaceFontName && Size == Other.Size && LetterSpacing == Other.LetterSpacing && OutlineSettings.IsIdenticalTo(Other.OutlineSettings); }
+
+	/** Whether the font names a font family to draw with. */
+	bool HasValidFont() const { return CompositeFont.IsValid(); }
+	/** The font family to draw with. */
+	const FCompositeFont* GetCompositeFont() const { return CompositeFont.Get(); }
 
 	bool operator==(const FSlateFontInfo& Other) const { return IsIdenticalTo(Other); }
 	bool operator!=(const FSlateFontInfo& Other) const { return !IsIdenticalTo(Other); }

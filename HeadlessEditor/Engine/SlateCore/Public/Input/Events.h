@@ -21,6 +21,30 @@ enum class EFocusCause : uint8
 	WindowActivate,
 };
 
+/** Why and for which user keyboard focus moved. */
+struct FFocusEvent
+{
+public:
+	FFocusEvent()
+		: Cause(EFocusCause::SetDirectly)
+		, UserIndex(0)
+	{
+	}
+
+	FFocusEvent(const EFocusCause InCause, uint32 InUserIndex)
+		: Cause(InCause)
+		, UserIndex(InUserIndex)
+	{
+	}
+
+	EFocusCause GetCause() const { return Cause; }
+	uint32 GetUser() const { return UserIndex; }
+
+private:
+	EFocusCause Cause;
+	uint32 UserIndex;
+};
+
 /** The base of every input event: modifier keys, user and repeat flag. */
 struct FInputEvent
 {
@@ -84,4 +108,27 @@ private:
 	FKey Key;
 	uint32 CharacterCode;
 	uint32 KeyCode;
+};
+
+/** A character typed while a widget has keyboard focus, sent to it and bubbled to its ancestors. */
+struct FCharacterEvent : public FInputEvent
+{
+public:
+	FCharacterEvent()
+		: FInputEvent(FModifierKeysState(), 0, false)
+		, Character(0)
+	{
+	}
+
+	FCharacterEvent(const TCHAR InCharacter, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex, const bool bInIsRepeat)
+		: FInputEvent(InModifierKeys, InUserIndex, bInIsRepeat)
+		, Character(InCharacter)
+	{
+	}
+
+	/** Returns the character for this event */
+	TCHAR GetCharacter() const { return Character; }
+
+private:
+	TCHAR Character;
 };

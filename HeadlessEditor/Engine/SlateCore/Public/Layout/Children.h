@@ -2,30 +2,10 @@
 
 #include "CoreMinimal.h"
 #include "Layout/BasicLayoutWidgetSlot.h"
+#include "Layout/ChildrenBase.h"
 #include "SlotBase.h"
 #include "Templates/UniquePtr.h"
 #include "Widgets/SWidget.h"
-
-/** The children of a widget, as the framework walks them. */
-class SLATECORE_API FChildren
-{
-public:
-	FChildren(SWidget* InOwner)
-		: Owner(InOwner)
-	{
-	}
-	virtual ~FChildren() = default;
-
-	virtual int32 Num() const = 0;
-	virtual TSharedRef<SWidget> GetChildAt(int32 Index) = 0;
-	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const = 0;
-
-	/** The widget these children belong to. */
-	SWidget& GetOwner() const { return *Owner; }
-
-private:
-	SWidget* Owner;
-};
 
 /** No children at all, for leaf widgets. */
 class SLATECORE_API FNoChildren : public FChildren
@@ -41,6 +21,9 @@ public:
 	virtual int32 Num() const override { return 0; }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override;
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const override;
+
+private:
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override;
 };
 
 /** A single child held in a slot with padding and alignment: the ChildSlot of compound widgets. */
@@ -66,6 +49,11 @@ public:
 	{
 		check(Index == 0);
 		return this->GetWidget();
+	}
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override
+	{
+		check(ChildIndex == 0);
+		return *this;
 	}
 
 	WidgetArgsType& Padding(TAttribute<FMargin> InPadding)
@@ -98,6 +86,8 @@ public:
 	virtual int32 Num() const override { return Children.Num(); }
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) override { return Children[Index]->GetWidget(); }
 	virtual TSharedRef<const SWidget> GetChildAt(int32 Index) const override { return Children[Index]->GetWidget(); }
+	bool IsValidIndex(int32 Index) const { return Children.IsValidIndex(Index); }
+	void Reserve(int32 NumToReserve) { Children.Reserve(NumToReserve); }
 
 	int32 AddSlot(typename SlotType::FSlotArguments&& SlotArgument)
 	{
@@ -123,19 +113,33 @@ public:
 		Children.Insert(MoveTemp(NewSlot), Index);
 	}
 
+	/** Removes the slot holding the widget. @return the slot's index, or INDEX_NONE */
+	int32 Remove(const TSharedRef<SWidget>& SlotWidget)
+	{
+		for (int32 Index = 0; Index < Children.Num(); ++Index)
+		{
+			if (Children[Index]->GetWidget() == SlotWidget)
+			{
+				RemoveAt(Index);
+				return Index;
+			}
+		}
+		return INDEX_NONE;
+	}
+
 	void RemoveAt(int32 Index)
 	{
 		Children[Index]->DetachWidget();
 		Children.RemoveAt(Index);
 	}
 
-	void Empty()
+	void Empty(int32 Slack = 0)
 	{
 		for (TUniquePtr<SlotType>& Slot : Children)
 		{
 			Slot->DetachWidget();
 		}
-		Children.Empty();
+		Children.Empty(Slack);
 	}
 
 	SlotType& operator[](int32 Index) { return *Children[Index]; }
@@ -173,6 +177,9 @@ public:
 		TPanelChildren<SlotType>& Children;
 		int32 Index;
 	};
+
+protected:
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override { return *Children[ChildIndex]; }
 
 private:
 	TArray<TUniquePtr<SlotType>> Children;

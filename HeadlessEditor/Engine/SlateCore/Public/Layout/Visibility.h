@@ -32,6 +32,9 @@ struct SLATECORE_API EVisibility
 
 	FString ToString() const;
 
+	/** Whether a widget of the given visibility is among those the filter lets through. */
+	static bool DoesVisibilityPassFilter(const EVisibility InVisibility, const EVisibility InVisibilityFilter) { return 0 != (InVisibility.Value & InVisibilityFilter.Value); }
+
 private:
 	enum Private
 	{

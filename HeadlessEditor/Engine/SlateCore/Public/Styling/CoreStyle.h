@@ -12,6 +12,9 @@ public:
 	/** The core style set; the headless editor makes it on first use. */
 	static const ISlateStyle& Get();
 
+	/** The editor's font family: Roboto, in the typefaces the engine names. */
+	static TSharedRef<const FCompositeFont> GetDefaultFont();
+
 	/** The default font family at the given typeface ("Regular", "Bold", "Italic"...) and size. */
 	static FSlateFontInfo GetDefaultFontStyle(const FName InTypefaceFontName, const int32 InSize, const FFontOutlineSettings& InOutlineSettings = FFontOutlineSettings());
 

@@ -28,8 +28,10 @@ public:
 
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const ISlateStyle* RequestingStyle = nullptr) const override;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;
-	virtual const FSlateBrush* GetDefaultBrush() const override;
+	virtual FSlateBrush* GetDefaultBrush() const override;
 	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
+	virtual const FLinearColor& GetColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FLinearColor& DefaultValue = FStyleDefaults::GetColor(), const ISlateStyle* RequestingStyle = nullptr) const override;
+	virtual const FSlateColor GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateColor& DefaultValue = FStyleDefaults::GetSlateColor(), const ISlateStyle* RequestingStyle = nullptr) const override;
 
 	/** Adds a brush made with new; the style set owns it from now on and deletes it with itself. */
 	template <typename BrushType>
@@ -43,10 +45,26 @@ public:
 		FontInfoResources.Add(PropertyName, InFontInfo);
 	}
 
-	/** Headless only: the keys of the brushes in the order they were added, for tests to read the set. */
-	void GetBrushKeys(TArray<FName>& OutKeys) const;
+	FORCENOINLINE void Set(const FName PropertyName, const FLinearColor& InColor)
+	{
+		ColorValues.Add(PropertyName, InColor);
+	}
+
+	FORCENOINLINE void Set(const FName PropertyName, const FSlateColor& InColor)
+	{
+		SlateColorValues.Add(PropertyName, InColor);
+	}
+
+	/** Adds a copy of a widget style (text, button, check box...) under a name. */
+	template <typename DefinitionType>
+	FORCENOINLINE void Set(const FName PropertyName, const DefinitionType& InStyleDefintion)
+	{
+		WidgetStyleValues.Add(PropertyName, MakeShareable(new DefinitionType(InStyleDefintion)));
+	}
 
 protected:
+	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, const FSlateWidgetStyle* DefaultStyle, bool bWarnIfNotFound) const override;
+
 	void SetBrush(const FName PropertyName, FSlateBrush* InBrush);
 
 	/** The name used to identity this style set */
@@ -58,8 +76,11 @@ protected:
 	/** This dir is Engine/Slate folder to share the items **/
 	FString CoreContentRootDir;
 
+	TMap<FName, TSharedRef<struct FSlateWidgetStyle>> WidgetStyleValues;
 	TMap<FName, FSlateBrush*> BrushResources;
 	TMap<FName, FSlateFontInfo> FontInfoResources;
+	TMap<FName, FLinearColor> ColorValues;
+	TMap<FName, FSlateColor> SlateColorValues;
 
 	/** The brush drawn for a key that is missing */
 	FSlateBrush* DefaultBrush;

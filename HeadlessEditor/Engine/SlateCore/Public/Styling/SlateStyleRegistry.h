@@ -18,5 +18,5 @@ public:
 	static const ISlateStyle* FindSlateStyle(const FName& InSlateStyleName);
 
 	/** Calls Iter for each registered style set until it returns false. */
-	static bool IterateAllStyles(TFunctionRef<bool(const ISlateStyle&)> Iter);
+	static bool IterateAllStyles(const TFunctionRef<bool(const ISlateStyle&)>& Iter);
 };

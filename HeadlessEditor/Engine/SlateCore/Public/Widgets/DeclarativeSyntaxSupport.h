@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Layout/Clipping.h"
 #include "Layout/Visibility.h"
 #include "Misc/Attribute.h"
 #include "Templates/Identity.h"
@@ -272,6 +273,7 @@ struct FSlateBaseNamedArgs
 	SLATE_PRIVATE_ARGUMENT_VARIABLE(bool, ForceVolatile) = false;
 	SLATE_PRIVATE_ARGUMENT_VARIABLE(float, RenderOpacity) = 1.0f;
 	SLATE_PRIVATE_ATTRIBUTE_VARIABLE(FVector2D, RenderTransformPivot) = FVector2D(0.0, 0.0);
+	SLATE_PRIVATE_ARGUMENT_VARIABLE(EWidgetClipping, Clipping) = EWidgetClipping::Inherit;
 	SLATE_PRIVATE_ARGUMENT_VARIABLE(FName, Tag);
 	SLATE_PRIVATE_ATTRIBUTE_VARIABLE(FText, AccessibleText);
 };
@@ -289,6 +291,7 @@ struct TSlateBaseNamedArgs : public FSlateBaseNamedArgs
 	SLATE_PRIVATE_ARGUMENT_FUNCTION(bool, ForceVolatile)
 	SLATE_PRIVATE_ARGUMENT_FUNCTION(float, RenderOpacity)
 	SLATE_PRIVATE_ATTRIBUTE_FUNCTION(FVector2D, RenderTransformPivot)
+	SLATE_PRIVATE_ARGUMENT_FUNCTION(EWidgetClipping, Clipping)
 	SLATE_PRIVATE_ARGUMENT_FUNCTION(FName, Tag)
 	SLATE_PRIVATE_ATTRIBUTE_FUNCTION(FText, AccessibleText)
 
@@ -317,11 +320,12 @@ namespace RequiredArgs
 		{
 		}
 
+		/** Passes each argument on as it was given: an argument given as a temporary is moved into Construct. */
 		template <class WidgetType>
-		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs) const
+		void CallConstruct(const TSharedRef<WidgetType>& OnWidget, const typename WidgetType::FArguments& WithNamedArgs)
 		{
 			std::apply([&](auto&... Unpacked)
-				{ OnWidget->Construct(WithNamedArgs, Unpacked...); },
+				{ OnWidget->Construct(WithNamedArgs, Forward<ArgTypes>(Unpacked)...); },
 				Args);
 		}
 

@@ -1,60 +1,95 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Layout/BasicLayoutWidgetSlot.h"
 #include "Layout/Children.h"
+#include "Misc/Attribute.h"
+#include "Types/SlateStructs.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SPanel.h"
 
-/** How a box slot takes up space along the box's direction. */
-struct FSizeParam
-{
-	enum ESizeRule
-	{
-		SizeRule_Auto,
-		SizeRule_Stretch
-	};
+class FArrangedChildren;
 
-	ESizeRule SizeRule = SizeRule_Stretch;
-	TAttribute<float> Value = 1.0f;
-};
-
-/** A panel that stacks its children along one direction. */
+/**
+ * A panel that stacks its children along one direction. Auto slots take their content's size, stretch
+ * slots share what is left in proportion to their coefficients; a max size caps either.
+ */
 class SLATECORE_API SBoxPanel : public SPanel
 {
-public:
+protected:
 	/** A box slot: padding, alignment, and how it is sized along the box. */
 	template <typename SlotType>
 	class TSlot : public TBasicLayoutWidgetSlot<SlotType>
 	{
 	public:
-		FSizeParam::ESizeRule GetSizeRule() const { return SizeParam.SizeRule; }
-		float GetSizeValue() const { return SizeParam.Value.Get(); }
-		TOptional<float> GetMaxSize() const { return MaxSize.IsSet() && MaxSize.Get() > 0.0f ? TOptional<float>(MaxSize.Get()) : TOptional<float>(); }
+		SLATE_SLOT_BEGIN_ARGS(TSlot, TBasicLayoutWidgetSlot<SlotType>)
+		SLATE_ARGUMENT(TOptional<FSizeParam>, SizeParam)
+		TAttribute<float> _MaxSize;
+		SLATE_SLOT_END_ARGS()
 
-		void SetAutoSize() { SizeParam.SizeRule = FSizeParam::SizeRule_Auto; }
-		void SetSizeToStretch(TAttribute<float> StretchCoefficient)
+	protected:
+		TSlot()
+			: TBasicLayoutWidgetSlot<SlotType>(HAlign_Fill, VAlign_Fill)
+			, SizeRule(FSizeParam::SizeRule_Stretch)
+			, SizeValue(1.0f)
+			, MaxSize(0.0f)
 		{
-			SizeParam.SizeRule = FSizeParam::SizeRule_Stretch;
-			SizeParam.Value = MoveTemp(StretchCoefficient);
 		}
+
+	public:
+		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs)
+		{
+			if (InArgs._MaxSize.IsSet())
+			{
+				SetMaxSize(MoveTemp(InArgs._MaxSize));
+			}
+			if (InArgs._SizeParam.IsSet())
+			{
+				SetSizeParam(InArgs._SizeParam.GetValue());
+			}
+			TBasicLayoutWidgetSlot<SlotType>::Construct(SlotOwner, MoveTemp(InArgs));
+		}
+
+		FSizeParam::ESizeRule GetSizeRule() const { return SizeRule; }
+		float GetSizeValue() const { return SizeValue.Get(); }
+		/** The largest size the slot may take along the box; zero or less means no limit. */
+		float GetMaxSize() const { return MaxSize.Get(); }
+
+	public:
+		void SetSizeParam(FSizeParam InSizeParam)
+		{
+			SizeRule = InSizeParam.SizeRule;
+			SizeValue = MoveTemp(InSizeParam.Value);
+		}
+		void SetSizeToAuto() { SetSizeParam(FAuto()); }
+		void SetSizeToStretch(TAttribute<float> StretchCoefficient) { SetSizeParam(FStretch(MoveTemp(StretchCoefficient))); }
 		void SetMaxSize(TAttribute<float> InMaxSize) { MaxSize = MoveTemp(InMaxSize); }
 
 	private:
-		FSizeParam SizeParam;
-		TAttribute<float> MaxSize = 0.0f;
+		FSizeParam::ESizeRule SizeRule;
+		TAttribute<float> SizeValue;
+		TAttribute<float> MaxSize;
 	};
 
-	EOrientation GetOrientation() const { return Orientation; }
-	virtual int32 NumSlots() const = 0;
-	virtual void ClearChildren() = 0;
+public:
+	/** Removes the slot holding the widget. @return the slot's index, or INDEX_NONE */
+	int32 RemoveSlot(const TSharedRef<SWidget>& SlotWidget);
+	void ClearChildren();
+	int32 NumSlots() const;
+	bool IsValidSlotIndex(int32 Index) const;
+
+public:
+	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 
 protected:
-	SBoxPanel(EOrientation InOrientation)
-		: Orientation(InOrientation)
-	{
-	}
+	virtual FVector2D ComputeDesiredSize(float) const override;
 
-private:
+protected:
+	SBoxPanel(EOrientation InOrientation);
+
+	EOrientation GetOrientation() const { return Orientation; }
+
+protected:
 	EOrientation Orientation;
 };
 
@@ -69,14 +104,13 @@ public:
 		/** The slot takes the width its content asks for. */
 		FSlotArguments& AutoWidth()
 		{
-			_SizeRule = FSizeParam::SizeRule_Auto;
+			_SizeParam = FAuto();
 			return Me();
 		}
 		/** The slot shares the free width in proportion to this coefficient. */
 		FSlotArguments& FillWidth(TAttribute<float> InStretchCoefficient)
 		{
-			_SizeRule = FSizeParam::SizeRule_Stretch;
-			_StretchCoefficient = MoveTemp(InStretchCoefficient);
+			_SizeParam = FStretch(MoveTemp(InStretchCoefficient));
 			return Me();
 		}
 		FSlotArguments& MaxWidth(TAttribute<float> InMaxWidth)
@@ -84,17 +118,16 @@ public:
 			_MaxSize = MoveTemp(InMaxWidth);
 			return Me();
 		}
-		TOptional<FSizeParam::ESizeRule> _SizeRule;
-		TAttribute<float> _StretchCoefficient;
-		TAttribute<float> _MaxSize;
 		SLATE_SLOT_END_ARGS()
 
-		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs);
+		void SetAutoWidth() { this->SetSizeToAuto(); }
+		void SetFillWidth(TAttribute<float> InStretchCoefficient) { this->SetSizeToStretch(MoveTemp(InStretchCoefficient)); }
+		void SetMaxWidth(TAttribute<float> InMaxWidth) { this->SetMaxSize(MoveTemp(InMaxWidth)); }
+
+		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs) { SBoxPanel::TSlot<FSlot>::Construct(SlotOwner, MoveTemp(InArgs)); }
 	};
 
-	using FScopedWidgetSlotArguments = TPanelChildren<FSlot>::FScopedWidgetSlotArguments;
-
-	static FSlot::FSlotArguments Slot();
+	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(MakeUnique<FSlot>()); }
 
 	SLATE_BEGIN_ARGS(SHorizontalBox)
 	{
@@ -103,15 +136,17 @@ public:
 	SLATE_SLOT_ARGUMENT(SHorizontalBox::FSlot, Slots)
 	SLATE_END_ARGS()
 
+	using FScopedWidgetSlotArguments = TPanelChildren<FSlot>::FScopedWidgetSlotArguments;
+
+	FScopedWidgetSlotArguments AddSlot() { return InsertSlot(INDEX_NONE); }
+	FScopedWidgetSlotArguments InsertSlot(int32 Index = INDEX_NONE) { return FScopedWidgetSlotArguments(MakeUnique<FSlot>(), Children, Index); }
+
+	FSlot& GetSlot(int32 SlotIndex);
+	const FSlot& GetSlot(int32 SlotIndex) const;
+
 	SHorizontalBox();
 	void Construct(const FArguments& InArgs);
 
-	FScopedWidgetSlotArguments AddSlot();
-	FScopedWidgetSlotArguments InsertSlot(int32 Index = INDEX_NONE);
-	FSlot& GetSlot(int32 SlotIndex) { return Children[SlotIndex]; }
-
-	virtual int32 NumSlots() const override { return Children.Num(); }
-	virtual void ClearChildren() override { Children.Empty(); }
 	virtual FChildren* GetChildren() override { return &Children; }
 
 private:
@@ -129,14 +164,13 @@ public:
 		/** The slot takes the height its content asks for. */
 		FSlotArguments& AutoHeight()
 		{
-			_SizeRule = FSizeParam::SizeRule_Auto;
+			_SizeParam = FAuto();
 			return Me();
 		}
 		/** The slot shares the free height in proportion to this coefficient. */
 		FSlotArguments& FillHeight(TAttribute<float> InStretchCoefficient)
 		{
-			_SizeRule = FSizeParam::SizeRule_Stretch;
-			_StretchCoefficient = MoveTemp(InStretchCoefficient);
+			_SizeParam = FStretch(MoveTemp(InStretchCoefficient));
 			return Me();
 		}
 		FSlotArguments& MaxHeight(TAttribute<float> InMaxHeight)
@@ -144,17 +178,16 @@ public:
 			_MaxSize = MoveTemp(InMaxHeight);
 			return Me();
 		}
-		TOptional<FSizeParam::ESizeRule> _SizeRule;
-		TAttribute<float> _StretchCoefficient;
-		TAttribute<float> _MaxSize;
 		SLATE_SLOT_END_ARGS()
 
-		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs);
+		void SetAutoHeight() { this->SetSizeToAuto(); }
+		void SetFillHeight(TAttribute<float> InStretchCoefficient) { this->SetSizeToStretch(MoveTemp(InStretchCoefficient)); }
+		void SetMaxHeight(TAttribute<float> InMaxHeight) { this->SetMaxSize(MoveTemp(InMaxHeight)); }
+
+		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs) { SBoxPanel::TSlot<FSlot>::Construct(SlotOwner, MoveTemp(InArgs)); }
 	};
 
-	using FScopedWidgetSlotArguments = TPanelChildren<FSlot>::FScopedWidgetSlotArguments;
-
-	static FSlot::FSlotArguments Slot();
+	static FSlot::FSlotArguments Slot() { return FSlot::FSlotArguments(MakeUnique<FSlot>()); }
 
 	SLATE_BEGIN_ARGS(SVerticalBox)
 	{
@@ -163,15 +196,17 @@ public:
 	SLATE_SLOT_ARGUMENT(SVerticalBox::FSlot, Slots)
 	SLATE_END_ARGS()
 
+	using FScopedWidgetSlotArguments = TPanelChildren<FSlot>::FScopedWidgetSlotArguments;
+
+	FScopedWidgetSlotArguments AddSlot() { return InsertSlot(INDEX_NONE); }
+	FScopedWidgetSlotArguments InsertSlot(int32 Index = INDEX_NONE) { return FScopedWidgetSlotArguments(MakeUnique<FSlot>(), Children, Index); }
+
+	FSlot& GetSlot(int32 SlotIndex);
+	const FSlot& GetSlot(int32 SlotIndex) const;
+
 	SVerticalBox();
 	void Construct(const FArguments& InArgs);
 
-	FScopedWidgetSlotArguments AddSlot();
-	FScopedWidgetSlotArguments InsertSlot(int32 Index = INDEX_NONE);
-	FSlot& GetSlot(int32 SlotIndex) { return Children[SlotIndex]; }
-
-	virtual int32 NumSlots() const override { return Children.Num(); }
-	virtual void ClearChildren() override { Children.Empty(); }
 	virtual FChildren* GetChildren() override { return &Children; }
 
 private:

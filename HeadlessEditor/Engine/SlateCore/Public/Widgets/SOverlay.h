@@ -44,10 +44,18 @@ public:
 	/** Adds a slot at the given z-order; INDEX_NONE puts it in front of all others. */
 	FScopedWidgetSlotArguments AddSlot(int32 ZOrder = INDEX_NONE);
 	int32 GetNumWidgets() const { return Children.Num(); }
-	bool RemoveSlot(int32 ZOrder);
+	/** Removes the slot at the given z-order; INDEX_NONE removes the front one. */
+	void RemoveSlot(int32 ZOrder = INDEX_NONE);
 	void ClearChildren() { Children.Empty(); }
 
 	virtual FChildren* GetChildren() override { return &Children; }
+	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	/** Each layer is drawn above everything the layers before it drew. */
+	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+protected:
+	/** The largest of the children's desired sizes, each with its slot's padding. */
+	virtual FVector2D ComputeDesiredSize(float) const override;
 
 private:
 	TPanelChildren<FOverlaySlot> Children;

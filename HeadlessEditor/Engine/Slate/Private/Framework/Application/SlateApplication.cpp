@@ -43,13 +43,24 @@ bool FSlateApplication::SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidg
 	{
 		return false;
 	}
-	KeyboardFocusedWidget = OptionalWidgetToFocus;
+	if (OptionalWidgetToFocus != KeyboardFocusedWidget.Pin())
+	{
+		ClearKeyboardFocus(ReasonFocusIsChanging);
+		KeyboardFocusedWidget = OptionalWidgetToFocus;
+		// A widget may pass the focus on, as a text box gives it to the text inside.
+		ProcessReply(OptionalWidgetToFocus->OnFocusReceived(OptionalWidgetToFocus->GetPaintSpaceGeometry(), FFocusEvent(ReasonFocusIsChanging, 0)));
+	}
 	return true;
 }
 
 void FSlateApplication::ClearKeyboardFocus(const EFocusCause ReasonFocusIsChanging)
 {
+	const TSharedPtr<SWidget> Previous = KeyboardFocusedWidget.Pin();
 	KeyboardFocusedWidget.Reset();
+	if (Previous.IsValid())
+	{
+		Previous->OnFocusLost(FFocusEvent(ReasonFocusIsChanging, 0));
+	}
 }
 
 TSharedPtr<SWidget> FSlateApplication::GetKeyboardFocusedWidget() const
@@ -57,17 +68,49 @@ TSharedPtr<SWidget> FSlateApplication::GetKeyboardFocusedWidget() const
 	return KeyboardFocusedWidget.Pin();
 }
 
-bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)
+bool FSlateApplication::RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler)
 {
 	// The focus path runs from the focused widget up through its parents, as in a window.
 	for (TSharedPtr<SWidget> Widget = KeyboardFocusedWidget.Pin(); Widget.IsValid(); Widget = Widget->GetParentWidget())
 	{
-		if (Widget->OnKeyDown(FGeometry(), InKeyEvent).IsEventHandled())
+		const FReply Reply = Handler(*Widget);
+		if (Reply.IsEventHandled())
 		{
+			ProcessReply(Reply);
 			return true;
 		}
 	}
 	return false;
+}
+
+void FSlateApplication::ProcessReply(const FReply& Reply)
+{
+	if (Reply.ShouldReleaseUserFocus())
+	{
+		ClearKeyboardFocus(Reply.GetFocusCause());
+	}
+	else if (Reply.ShouldSetUserFocus())
+	{
+		SetKeyboardFocus(Reply.GetUserFocusRecepient(), Reply.GetFocusCause());
+	}
+}
+
+bool FSlateApplication::ProcessKeyDownEvent(const FKeyEvent& InKeyEvent)
+{
+	return RouteAlongFocusPath([&InKeyEvent](SWidget& Widget)
+		{ return Widget.OnKeyDown(Widget.GetPaintSpaceGeometry(), InKeyEvent); });
+}
+
+bool FSlateApplication::ProcessKeyUpEvent(const FKeyEvent& InKeyEvent)
+{
+	return RouteAlongFocusPath([&InKeyEvent](SWidget& Widget)
+		{ return Widget.OnKeyUp(Widget.GetPaintSpaceGeometry(), InKeyEvent); });
+}
+
+bool FSlateApplication::ProcessKeyCharEvent(const FCharacterEvent& InCharacterEvent)
+{
+	return RouteAlongFocusPath([&InCharacterEvent](SWidget& Widget)
+		{ return Widget.OnKeyChar(Widget.GetPaintSpaceGeometry(), InCharacterEvent); });
 }
 
 TSharedRef<IToolTip> FSlateApplication::MakeToolTip(const TAttribute<FText>& ToolTipText)

@@ -29,7 +29,7 @@ void FInputBindingManager::RemoveInputCommand(const TSharedRef<FBindingContext>&
 	}
 }
 
-TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName InContextName)
+TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName& InContextName)
 {
 	if (FContextEntry* Entry = ContextMap.Find(InContextName))
 	{
@@ -38,12 +38,12 @@ TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName I
 	return nullptr;
 }
 
-void FInputBindingManager::RemoveContextByName(const FName InContextName)
+void FInputBindingManager::RemoveContextByName(const FName& InContextName)
 {
 	ContextMap.Remove(InContextName);
 }
 
-TSharedPtr<FUICommandInfo> FInputBindingManager::FindCommandInContext(const FName InBindingContext, const FName CommandName) const
+const TSharedPtr<FUICommandInfo> FInputBindingManager::FindCommandInContext(const FName InBindingContext, const FName CommandName) const
 {
 	if (const FContextEntry* Entry = ContextMap.Find(InBindingContext))
 	{

@@ -1,70 +1,29 @@
 #include "Framework/Docking/TabManager.h"
 
-FTabSpawnerEntry::FTabSpawnerEntry(const FName& InTabType, const FOnSpawnTab& InSpawnTabMethod, const FCanSpawnTab& InCanSpawnTab)
-	: FWorkspaceItem(InTabType, FText::GetEmpty(), FSlateIcon(), false)
-	, TabType(InTabType)
-	, OnSpawnTab(InSpawnTabMethod)
-	, CanSpawnTab(InCanSpawnTab)
-	, MenuType(ETabSpawnerMenuType::Enabled)
-	, bAutoGenerateMenuEntry(true)
+#include "Framework/Docking/DockingState.h"
+
+FDockingState& FDockingState::Get()
+{
+	static FDockingState State;
+	return State;
+}
+
+void FDockingState::RemoveLiveTab(const SDockTab& Tab)
+{
+	LiveTabs.RemoveAll([&Tab](const FLiveTab& LiveTab)
+		{ return &LiveTab.Tab.Get() == &Tab; });
+}
+
+FTabManager::FTabManager(const TSharedPtr<SDockTab>& InOwnerTab, const TSharedRef<FTabManager::FTabSpawner>& InNomadTabSpawner)
+	: NomadTabSpawner(InNomadTabSpawner)
+	, OwnerTabPtr(InOwnerTab)
 {
 }
 
-FTabSpawnerEntry& FTabSpawnerEntry::SetIcon(const FSlateIcon& InIcon)
+FTabManager::~FTabManager()
 {
-	Icon = InIcon;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetDisplayNameAttribute(const TAttribute<FText>& InLegibleName)
-{
-	DisplayNameAttribute = InLegibleName;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetDisplayName(const FText& InLegibleName)
-{
-	DisplayNameAttribute = InLegibleName;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetTooltipTextAttribute(const TAttribute<FText>& InTooltipText)
-{
-	TooltipTextAttribute = InTooltipText;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetTooltipText(const FText& InTooltipText)
-{
-	TooltipTextAttribute = InTooltipText;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetGroup(const TSharedRef<FWorkspaceItem>& InGroup)
-{
-	if (const TSharedPtr<FWorkspaceItem> OldGroup = GetParent())
-	{
-		OldGroup->RemoveItem(AsShared());
-	}
-	InGroup->AddItem(AsShared());
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetMenuType(const TAttribute<ETabSpawnerMenuType::Type>& InMenuType)
-{
-	MenuType = InMenuType;
-	return *this;
-}
-
-FTabSpawnerEntry& FTabSpawnerEntry::SetAutoGenerateMenuEntry(bool bInAutoGenerateMenuEntry)
-{
-	bAutoGenerateMenuEntry = bInAutoGenerateMenuEntry;
-	return *this;
-}
-
-TSharedPtr<FTabSpawnerEntry> FTabSpawnerEntry::AsSpawnerEntry()
-{
-	return StaticCastSharedRef<FTabSpawnerEntry>(AsShared());
+	FDockingState::Get().LiveTabs.RemoveAll([this](const FDockingState::FLiveTab& LiveTab)
+		{ return LiveTab.Manager == this; });
 }
 
 FTabSpawnerEntry& FTabManager::RegisterTabSpawner(const FName TabId, const FOnSpawnTab& OnSpawnTab, const FCanSpawnTab& CanSpawnTab)
@@ -85,10 +44,19 @@ bool FTabManager::HasTabSpawner(FName TabId) const
 	return FindTabSpawnerFor(TabId).IsValid();
 }
 
-TSharedPtr<FTabSpawnerEntry> FTabManager::FindTabSpawnerFor(FName TabId) const
+TSharedPtr<FTabSpawnerEntry> FTabManager::FindTabSpawnerFor(FName TabId)
 {
+	if (const TSharedRef<FTabSpawnerEntry>* Nomad = NomadTabSpawner->Find(TabId))
+	{
+		return *Nomad;
+	}
 	const TSharedRef<FTabSpawnerEntry>* Spawner = TabSpawner.Find(TabId);
 	return Spawner ? TSharedPtr<FTabSpawnerEntry>(*Spawner) : TSharedPtr<FTabSpawnerEntry>();
+}
+
+const TSharedPtr<const FTabSpawnerEntry> FTabManager::FindTabSpawnerFor(FName TabId) const
+{
+	return const_cast<FTabManager*>(this)->FindTabSpawnerFor(TabId);
 }
 
 TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId, bool bInvokeAsInactive)
@@ -101,18 +69,17 @@ TSharedPtr<SDockTab> FTabManager::TryInvokeTab(const FTabId& TabId, bool bInvoke
 		}
 		return ExistingTab;
 	}
+	return SpawnTab(TabId, TSharedPtr<SWindow>(), true);
+}
 
+TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedPtr<SWindow>& ParentWindow, const bool bCanOutputBeNullptr)
+{
 	const TSharedPtr<FTabSpawnerEntry> Spawner = FindTabSpawnerFor(TabId.TabType);
 	if (!Spawner.IsValid())
 	{
 		return nullptr;
 	}
-	return SpawnTab(TabId, Spawner.ToSharedRef());
-}
-
-TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef<FTabSpawnerEntry>& Spawner)
-{
-	const FSpawnTabArgs Args(TSharedPtr<SWindow>(), TabId);
+	const FSpawnTabArgs Args(ParentWindow, TabId);
 	if (Spawner->CanSpawnTab.IsBound() && !Spawner->CanSpawnTab.Execute(Args))
 	{
 		return nullptr;
@@ -120,17 +87,17 @@ TSharedPtr<SDockTab> FTabManager::SpawnTab(const FTabId& TabId, const TSharedRef
 	const TSharedRef<SDockTab> NewTab = Spawner->OnSpawnTab.Execute(Args);
 	NewTab->SetTabManager(AsShared());
 	Spawner->SpawnedTabPtr = NewTab;
-	LiveTabs.Add(TPair<FTabId, TSharedRef<SDockTab>>(TabId, NewTab));
+	FDockingState::Get().LiveTabs.Add({this, TabId, NewTab});
 	return NewTab;
 }
 
 TSharedPtr<SDockTab> FTabManager::FindExistingLiveTab(const FTabId& TabId) const
 {
-	for (const TPair<FTabId, TSharedRef<SDockTab>>& LiveTab : LiveTabs)
+	for (const FDockingState::FLiveTab& LiveTab : FDockingState::Get().LiveTabs)
 	{
-		if (LiveTab.Key == TabId)
+		if (LiveTab.Manager == this && LiveTab.TabId == TabId)
 		{
-			return LiveTab.Value;
+			return LiveTab.Tab;
 		}
 	}
 	return nullptr;
@@ -141,50 +108,27 @@ void FTabManager::DrawAttention(const TSharedRef<SDockTab>& TabToHighlight)
 	TabToHighlight->FlashTab();
 }
 
-void FTabManager::OnTabClosing(const TSharedRef<SDockTab>& TabBeingClosed)
+FGlobalTabmanager::FGlobalTabmanager()
+	: FTabManager(TSharedPtr<SDockTab>(), MakeShared<FTabSpawner>())
 {
-	for (int32 Index = 0; Index < LiveTabs.Num(); ++Index)
-	{
-		if (LiveTabs[Index].Value == TabBeingClosed)
-		{
-			LiveTabs.RemoveAt(Index);
-			return;
-		}
-	}
 }
 
 const TSharedRef<FGlobalTabmanager>& FGlobalTabmanager::Get()
 {
-	static const TSharedRef<FGlobalTabmanager> Instance(new FGlobalTabmanager());
+	static const TSharedRef<FGlobalTabmanager> Instance = FGlobalTabmanager::New();
 	return Instance;
 }
 
 FTabSpawnerEntry& FGlobalTabmanager::RegisterNomadTabSpawner(const FName TabId, const FOnSpawnTab& OnSpawnTab, const FCanSpawnTab& CanSpawnTab)
 {
 	// Registering an id again replaces the old spawner without complaint, as the engine does.
-	NomadTabSpawner.Remove(TabId);
+	NomadTabSpawner->Remove(TabId);
 	TSharedRef<FTabSpawnerEntry> NewSpawnerEntry = MakeShared<FTabSpawnerEntry>(TabId, OnSpawnTab, CanSpawnTab);
-	NomadTabSpawner.Add(TabId, NewSpawnerEntry);
+	NomadTabSpawner->Add(TabId, NewSpawnerEntry);
 	return NewSpawnerEntry.Get();
 }
 
 void FGlobalTabmanager::UnregisterNomadTabSpawner(const FName TabId)
 {
-	NomadTabSpawner.Remove(TabId);
-}
-
-TSharedPtr<FTabSpawnerEntry> FGlobalTabmanager::FindTabSpawnerFor(FName TabId) const
-{
-	if (const TSharedRef<FTabSpawnerEntry>* Nomad = NomadTabSpawner.Find(TabId))
-	{
-		return *Nomad;
-	}
-	return FTabManager::FindTabSpawnerFor(TabId);
-}
-
-void FGlobalTabmanager::ResetForHeadlessSession()
-{
-	LiveTabs.Empty();
-	TabSpawner.Empty();
-	NomadTabSpawner.Empty();
+	NomadTabSpawner->Remove(TabId);
 }

@@ -8,21 +8,22 @@ FWorkspaceItem::FWorkspaceItem(const FText& InDisplayName, const FSlateIcon& InI
 {
 }
 
-FWorkspaceItem::FWorkspaceItem(const FName& InTabId, const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren)
-	: FWorkspaceItem(InDisplayName, InIcon, bInSortChildren)
+FWorkspaceItem::FWorkspaceItem(const FText& InDisplayName, const FText& InTooltipText, const FSlateIcon& InIcon, const bool bInSortChildren)
+	: Icon(InIcon)
+	, DisplayNameAttribute(InDisplayName)
+	, TooltipTextAttribute(InTooltipText)
+	, bSortChildren(bInSortChildren)
 {
 }
 
 TSharedRef<FWorkspaceItem> FWorkspaceItem::NewGroup(const FText& DisplayName, const FSlateIcon& Icon, const bool bSortChildren)
 {
-	return MakeShared<FWorkspaceItem>(DisplayName, Icon, bSortChildren);
+	return MakeShareable(new FWorkspaceItem(DisplayName, Icon, bSortChildren));
 }
 
 TSharedRef<FWorkspaceItem> FWorkspaceItem::NewGroup(const FText& DisplayName, const FText& TooltipText, const FSlateIcon& Icon, const bool bSortChildren)
 {
-	TSharedRef<FWorkspaceItem> Group = MakeShared<FWorkspaceItem>(DisplayName, Icon, bSortChildren);
-	Group->TooltipTextAttribute = TooltipText;
-	return Group;
+	return MakeShareable(new FWorkspaceItem(DisplayName, TooltipText, Icon, bSortChildren));
 }
 
 TSharedRef<FWorkspaceItem> FWorkspaceItem::AddGroup(const FText& InDisplayName, const FSlateIcon& InIcon, const bool InSortChildren)

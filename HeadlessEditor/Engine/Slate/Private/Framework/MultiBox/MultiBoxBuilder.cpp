@@ -24,8 +24,8 @@ namespace
 	}
 }
 
-FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType Type, bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender, FName InTutorialHighlightName, FName InMenuName)
-	: MultiBox(FMultiBox::Create(Type, bInShouldCloseWindowAfterMenuSelection))
+FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList, TSharedPtr<FExtender> InExtender, FName InTutorialHighlightName, FName InMenuName)
+	: MultiBox(FMultiBox::Create(InType, InCustomization, bInShouldCloseWindowAfterMenuSelection))
 	, TutorialHighlightName(InTutorialHighlightName)
 	, MenuName(InMenuName)
 {
@@ -43,7 +43,7 @@ TSharedRef<FMultiBox> FMultiBoxBuilder::GetMultiBox()
 }
 
 FBaseMenuBuilder::FBaseMenuBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, bool bInCloseSelfOnly, TSharedPtr<FExtender> InExtender, const ISlateStyle* InStyleSet, FName InTutorialHighlightName, FName InMenuName)
-	: FMultiBoxBuilder(InType, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName)
+	: FMultiBoxBuilder(InType, FMultiBoxCustomization::None, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName)
 	, bCloseSelfOnly(bInCloseSelfOnly)
 {
 	MultiBox->SetStyle(InStyleSet, TEXT("Menu"));

@@ -1,69 +1,37 @@
 #include "Framework/Notifications/NotificationManager.h"
 
-#include "Headless/HeadlessNotifications.h"
+#include "Framework/Notifications/NotificationManagerState.h"
 #include "Widgets/Notifications/SNotificationItemImpl.h"
 
-namespace
+FNotificationManagerState& FNotificationManagerState::Get()
 {
-	double GNotificationTime = 0.0;
+	static FNotificationManagerState State;
+	return State;
 }
 
-namespace UE::Headless
+FSlateNotificationManager::FSlateNotificationManager()
+	: bAllowNotifications(true)
 {
-	double GetNotificationTime()
-	{
-		return GNotificationTime;
-	}
-
-	void AdvanceNotificationTime(float DeltaSeconds)
-	{
-		GNotificationTime += DeltaSeconds;
-		FSlateNotificationManager::Get().Tick();
-	}
-
-	const FNotificationButtonInfo* FindNotificationButton(const SNotificationItem& Item, const FString& Text)
-	{
-		for (const FNotificationButtonInfo& Button : static_cast<const SNotificationItemImpl&>(Item).GetButtons())
-		{
-			if (Button.Text.ToString().Equals(Text))
-			{
-				return &Button;
-			}
-		}
-		return nullptr;
-	}
-
-	bool IsFireAndForget(const SNotificationItem& Item)
-	{
-		return static_cast<const SNotificationItemImpl&>(Item).IsFireAndForget();
-	}
-
-	float GetWidthOverride(const SNotificationItem& Item)
-	{
-		return static_cast<const SNotificationItemImpl&>(Item).GetWidthOverride();
-	}
-
-	const FSlateBrush* GetNotificationImage(const SNotificationItem& Item)
-	{
-		return static_cast<const SNotificationItemImpl&>(Item).GetImage();
-	}
-
-	void ResetNotifications()
-	{
-		FSlateNotificationManager::Get().ResetForHeadlessSession();
-	}
 }
 
 FSlateNotificationManager& FSlateNotificationManager::Get()
 {
-	static FSlateNotificationManager* Instance = new FSlateNotificationManager();
+	// The engine keeps one manager for the process; so does the headless editor.
+	struct FProcessManager : FSlateNotificationManager
+	{
+	};
+	static FProcessManager* Instance = new FProcessManager();
 	return *Instance;
 }
 
 TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const FNotificationInfo& Info)
 {
+	if (!bAllowNotifications)
+	{
+		return nullptr;
+	}
 	TSharedRef<SNotificationItemImpl> NewItem = SNew(SNotificationItemImpl, Info);
-	Notifications.Add(NewItem);
+	FNotificationManagerState::Get().Notifications.Add(NewItem);
 	if (Info.bFireAndForget)
 	{
 		NewItem->ExpireAndFadeout();
@@ -73,17 +41,13 @@ TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const F
 
 void FSlateNotificationManager::Tick()
 {
-	const TArray<TSharedRef<SNotificationItem>> Current = Notifications;
+	FNotificationManagerState& State = FNotificationManagerState::Get();
+	const TArray<TSharedRef<SNotificationItem>> Current = State.Notifications;
 	for (const TSharedRef<SNotificationItem>& Item : Current)
 	{
-		if (StaticCastSharedRef<SNotificationItemImpl>(Item)->Advance(GNotificationTime))
+		if (StaticCastSharedRef<SNotificationItemImpl>(Item)->Advance(State.Time))
 		{
-			RemoveNotification(Item);
+			State.Notifications.Remove(Item);
 		}
 	}
-}
-
-void FSlateNotificationManager::RemoveNotification(const TSharedRef<SNotificationItem>& Item)
-{
-	Notifications.Remove(Item);
 }

@@ -1,13 +1,21 @@
 #include "Widgets/Docking/SDockTab.h"
 
+#include "Framework/Docking/DockingState.h"
 #include "Framework/Docking/TabManager.h"
+#include "Styling/AppStyle.h"
+#include "Styling/SlateTypes.h"
 
 SDockTab::SDockTab()
 	: Content(SNullWidget::NullWidget)
 	, TabRole(ETabRole::PanelTab)
 	, bCanEverClose(true)
-	, FlashCount(0)
 {
+}
+
+SDockTab::~SDockTab()
+{
+	FDockingState::Get().AttentionRequests.RemoveAll([this](const TPair<const SDockTab*, int32>& Request)
+		{ return Request.Key == this; });
 }
 
 void SDockTab::Construct(const FArguments& InArgs)
@@ -19,9 +27,21 @@ void SDockTab::Construct(const FArguments& InArgs)
 	OnCanCloseTab = InArgs._OnCanCloseTab;
 	bCanEverClose = InArgs._CanEverClose;
 
+	// The tab stands for the docking area showing its content: the content area's brush, behind the content.
 	SBorder::Construct(SBorder::FArguments()
+						   .BorderImage(this, &SDockTab::GetContentAreaBrush)
 						   .Padding(InArgs._ContentPadding)
 							   [Content]);
+}
+
+const FDockTabStyle& SDockTab::GetCurrentStyle() const
+{
+	return FAppStyle::Get().GetWidgetStyle<FDockTabStyle>(GetVisualTabRole() == ETabRole::MajorTab ? "Docking.MajorTab" : "Docking.Tab");
+}
+
+const FSlateBrush* SDockTab::GetContentAreaBrush() const
+{
+	return &GetCurrentStyle().ContentAreaBrush;
 }
 
 TSharedRef<SWidget> SDockTab::GetContent()
@@ -48,9 +68,19 @@ bool SDockTab::RequestCloseTab()
 	}
 	const TSharedRef<SDockTab> Self = SharedThis(this);
 	OnTabClosed.ExecuteIfBound(Self);
-	if (const TSharedPtr<FTabManager> TabManager = MyTabManager.Pin())
-	{
-		TabManager->OnTabClosing(Self);
-	}
+	FDockingState::Get().RemoveLiveTab(*this);
 	return true;
+}
+
+void SDockTab::FlashTab()
+{
+	for (TPair<const SDockTab*, int32>& Request : FDockingState::Get().AttentionRequests)
+	{
+		if (Request.Key == this)
+		{
+			++Request.Value;
+			return;
+		}
+	}
+	FDockingState::Get().AttentionRequests.Add(TPair<const SDockTab*, int32>(this, 1));
 }

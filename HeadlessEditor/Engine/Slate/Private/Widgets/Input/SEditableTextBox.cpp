@@ -1,93 +1,137 @@
 #include "Widgets/Input/SEditableTextBox.h"
 
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/SBoxPanel.h"
+
 SEditableTextBox::SEditableTextBox()
-	: bIsEditing(false)
+	: Style(&FCoreStyle::Get().GetWidgetStyle<FEditableTextBoxStyle>("NormalEditableTextBox"))
 {
 }
 
 void SEditableTextBox::Construct(const FArguments& InArgs)
 {
-	BoundText = InArgs._Text;
-	EditedText = BoundText.Get(FText::GetEmpty());
-	HintText = InArgs._HintText;
-	Font = InArgs._Font;
-	IsReadOnly = InArgs._IsReadOnly;
-	RevertTextOnEscape = InArgs._RevertTextOnEscape;
+	check(InArgs._Style);
+	Style = InArgs._Style;
+	PaddingOverride = InArgs._Padding;
+	FontOverride = InArgs._Font;
+	ForegroundColorOverride = InArgs._ForegroundColor;
+	ReadOnlyForegroundColorOverride = InArgs._ReadOnlyForegroundColor;
+	FocusedForegroundColorOverride = InArgs._FocusedForegroundColor;
 	OnTextChanged = InArgs._OnTextChanged;
 	OnTextCommitted = InArgs._OnTextCommitted;
 
-	SBorder::Construct(SBorder::FArguments().Padding(FMargin(4.0f, 2.0f)));
-}
-
-FText SEditableTextBox::GetText() const
-{
-	if (BoundText.IsBound() && !bIsEditing)
-	{
-		return BoundText.Get();
-	}
-	return EditedText;
+	// The box draws its state's brush; the text inside takes the box's foreground.
+	SBorder::Construct(SBorder::FArguments()
+						   .BorderImage(this, &SEditableTextBox::GetBorderImage)
+						   .BorderBackgroundColor(this, &SEditableTextBox::DetermineBackgroundColor)
+						   .ForegroundColor(this, &SEditableTextBox::DetermineForegroundColor)
+						   .Padding(0.0f)
+							   [SAssignNew(Box, SHorizontalBox) + SHorizontalBox::Slot().VAlign(VAlign_Fill).HAlign(HAlign_Fill).FillWidth(1.0f)[SAssignNew(PaddingBox, SBox).Padding(this, &SEditableTextBox::DeterminePadding).VAlign(VAlign_Center)[SAssignNew(EditableText, SEditableText).Text(InArgs._Text).HintText(InArgs._HintText).Font(this, &SEditableTextBox::DetermineFont).IsReadOnly(InArgs._IsReadOnly).SelectAllTextWhenFocused(InArgs._SelectAllTextWhenFocused).RevertTextOnEscape(InArgs._RevertTextOnEscape).ClearKeyboardFocusOnCommit(InArgs._ClearKeyboardFocusOnCommit).OnTextChanged(this, &SEditableTextBox::OnEditableTextChanged).OnTextCommitted(this, &SEditableTextBox::OnEditableTextCommitted).MinDesiredWidth(InArgs._MinDesiredWidth)]]]);
 }
 
 void SEditableTextBox::SetText(const TAttribute<FText>& InNewText)
 {
-	BoundText = InNewText;
-	EditedText = BoundText.Get(FText::GetEmpty());
-	bIsEditing = false;
+	EditableText->SetText(InNewText);
+}
+
+void SEditableTextBox::SetHintText(const TAttribute<FText>& InHintText)
+{
+	EditableText->SetHintText(InHintText);
+}
+
+void SEditableTextBox::SetIsReadOnly(TAttribute<bool> InIsReadOnly)
+{
+	EditableText->SetIsReadOnly(MoveTemp(InIsReadOnly));
+}
+
+void SEditableTextBox::SetFont(const TAttribute<FSlateFontInfo>& InFont)
+{
+	FontOverride = InFont;
+}
+
+bool SEditableTextBox::SupportsKeyboardFocus() const
+{
+	return StaticCastSharedPtr<SWidget>(EditableText)->SupportsKeyboardFocus();
+}
+
+bool SEditableTextBox::HasKeyboardFocus() const
+{
+	// The box hands its focus to the text inside.
+	return SBorder::HasKeyboardFocus() || EditableText->HasKeyboardFocus();
+}
+
+FReply SEditableTextBox::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
+{
+	FReply Reply = FReply::Handled();
+	if (InFocusEvent.GetCause() != EFocusCause::Cleared)
+	{
+		Reply.SetUserFocus(EditableText.ToSharedRef(), InFocusEvent.GetCause());
+	}
+	return Reply;
 }
 
 FReply SEditableTextBox::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	const bool bReadOnly = IsReadOnly.Get(false);
-	// Enter commits the text and is consumed by the box, as the engine's single-line text box does.
-	if (InKeyEvent.GetKey() == EKeys::Enter && !bReadOnly)
+	// Escape leaves the text, unless the text used it to revert.
+	if (InKeyEvent.GetKey() == EKeys::Escape && EditableText->HasKeyboardFocus())
 	{
-		if (!InKeyEvent.IsRepeat())
-		{
-			HandleCommit(ETextCommit::OnEnter);
-		}
-		return FReply::Handled();
+		return FReply::Handled().SetUserFocus(SharedThis(this), EFocusCause::Cleared);
 	}
-	if (InKeyEvent.GetKey() == EKeys::Escape && RevertTextOnEscape.Get(false) && bIsEditing)
-	{
-		HandleUserEdit(TextAtEditStart);
-		HandleCommit(ETextCommit::OnCleared);
-		return FReply::Handled();
-	}
-	if (InKeyEvent.GetKey() == EKeys::BackSpace && !bReadOnly)
-	{
-		const FString Current = GetText().ToString();
-		if (!Current.IsEmpty())
-		{
-			HandleUserEdit(FText::FromString(Current.Left(Current.Len() - 1)));
-		}
-		return FReply::Handled();
-	}
-	return SBorder::OnKeyDown(MyGeometry, InKeyEvent);
+	return FReply::Unhandled();
 }
 
-void SEditableTextBox::HandleUserEdit(const FText& InNewText)
+void SEditableTextBox::OnEditableTextChanged(const FText& InText)
 {
-	if (!bIsEditing)
-	{
-		TextAtEditStart = GetText();
-		bIsEditing = true;
-	}
-	EditedText = InNewText;
-	// A getter binding is expected to follow through OnTextChanged; a plain value keeps what was typed.
-	if (!BoundText.IsBound())
-	{
-		BoundText.Set(EditedText);
-	}
-	OnTextChanged.ExecuteIfBound(EditedText);
+	OnTextChanged.ExecuteIfBound(InText);
 }
 
-void SEditableTextBox::HandleCommit(ETextCommit::Type CommitType)
+void SEditableTextBox::OnEditableTextCommitted(const FText& InText, ETextCommit::Type InCommitType)
 {
-	const FText CommittedText = GetText();
-	OnTextCommitted.ExecuteIfBound(CommittedText, CommitType);
-	bIsEditing = false;
-	if (BoundText.IsBound())
+	OnTextCommitted.ExecuteIfBound(InText, InCommitType);
+}
+
+FMargin SEditableTextBox::DeterminePadding() const
+{
+	return PaddingOverride.IsSet() ? PaddingOverride.Get() : Style->Padding;
+}
+
+FSlateFontInfo SEditableTextBox::DetermineFont() const
+{
+	return FontOverride.IsSet() ? FontOverride.Get() : Style->TextStyle.Font;
+}
+
+FSlateColor SEditableTextBox::DetermineBackgroundColor() const
+{
+	return Style->BackgroundColor;
+}
+
+FSlateColor SEditableTextBox::DetermineForegroundColor() const
+{
+	if (EditableText->IsTextReadOnly())
 	{
-		EditedText = BoundText.Get();
+		if (ReadOnlyForegroundColorOverride.IsSet())
+		{
+			return ReadOnlyForegroundColorOverride.Get();
+		}
+		return ForegroundColorOverride.IsSet() ? ForegroundColorOverride.Get() : Style->ReadOnlyForegroundColor;
 	}
+	if (HasKeyboardFocus())
+	{
+		return FocusedForegroundColorOverride.IsSet() ? FocusedForegroundColorOverride.Get() : Style->FocusedForegroundColor;
+	}
+	return ForegroundColorOverride.IsSet() ? ForegroundColorOverride.Get() : Style->ForegroundColor;
+}
+
+const FSlateBrush* SEditableTextBox::GetBorderImage() const
+{
+	if (EditableText->IsTextReadOnly())
+	{
+		return &Style->BackgroundImageReadOnly;
+	}
+	if (EditableText->HasKeyboardFocus())
+	{
+		return &Style->BackgroundImageFocused;
+	}
+	// There is no pointer input to hover the box with, so the hovered brush is never shown.
+	return &Style->BackgroundImageNormal;
 }

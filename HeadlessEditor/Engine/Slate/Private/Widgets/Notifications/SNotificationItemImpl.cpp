@@ -1,15 +1,10 @@
 #include "SNotificationItemImpl.h"
 
-#include "Framework/Notifications/NotificationManager.h"
+#include "Framework/Notifications/NotificationManagerState.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/Text/STextBlock.h"
-
-namespace UE::Headless
-{
-	double GetNotificationTime();
-}
 
 void SNotificationItemImpl::Construct(const FArguments& InArgs, const FNotificationInfo& InInfo)
 {
@@ -56,7 +51,7 @@ void SNotificationItemImpl::ExpireAndFadeout()
 	if (Phase == EPhase::Shown)
 	{
 		Phase = EPhase::Expiring;
-		ExpireStartTime = UE::Headless::GetNotificationTime();
+		ExpireStartTime = FNotificationManagerState::Get().Time;
 	}
 }
 
@@ -65,7 +60,7 @@ void SNotificationItemImpl::Fadeout()
 	if (Phase == EPhase::Shown || Phase == EPhase::Expiring)
 	{
 		Phase = EPhase::FadingOut;
-		PhaseEndTime = UE::Headless::GetNotificationTime() + FadeOutDuration;
+		PhaseEndTime = FNotificationManagerState::Get().Time + FadeOutDuration;
 	}
 }
 

@@ -3,6 +3,7 @@
 #include "Application/SlateApplicationBase.h"
 #include "CoreMinimal.h"
 #include "Input/Events.h"
+#include "Input/Reply.h"
 #include "Rendering/SlateRenderer.h"
 
 class SWidget;
@@ -31,12 +32,16 @@ public:
 	bool SetKeyboardFocus(const TSharedPtr<SWidget>& OptionalWidgetToFocus, EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 	void ClearKeyboardFocus(const EFocusCause ReasonFocusIsChanging = EFocusCause::SetDirectly);
 	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const override;
+	virtual float GetApplicationScale() const override { return Scale; }
 
 	/**
 	 * Sends a key press to the focused widget, then to each of its ancestors in turn until one handles
 	 * it. @return whether a widget handled it.
 	 */
 	bool ProcessKeyDownEvent(const FKeyEvent& InKeyEvent);
+	bool ProcessKeyUpEvent(const FKeyEvent& InKeyEvent);
+	/** Sends a typed character along the same path as a key press. */
+	bool ProcessKeyCharEvent(const FCharacterEvent& InCharacterEvent);
 
 	virtual TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) override;
 	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) override;
@@ -44,7 +49,13 @@ public:
 private:
 	FSlateApplication() = default;
 
+	/** Offers an event to the focused widget, then to each ancestor, until one handles it. */
+	bool RouteAlongFocusPath(TFunctionRef<FReply(SWidget&)> Handler);
+	/** Carries out the focus change a reply asks for. */
+	void ProcessReply(const FReply& Reply);
+
 	static TSharedPtr<FSlateApplication> CurrentApplication;
 
 	TWeakPtr<SWidget> KeyboardFocusedWidget;
+	float Scale = 1.0f;
 };

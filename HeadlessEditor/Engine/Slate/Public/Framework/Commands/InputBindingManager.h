@@ -13,11 +13,11 @@ public:
 	void CreateInputCommand(const TSharedRef<FBindingContext>& InBindingContext, TSharedRef<FUICommandInfo> InCommandInfo);
 	void RemoveInputCommand(const TSharedRef<FBindingContext>& InBindingContext, TSharedRef<FUICommandInfo> InCommandInfo);
 
-	TSharedPtr<FBindingContext> GetContextByName(const FName InContextName);
-	void RemoveContextByName(const FName InContextName);
+	TSharedPtr<FBindingContext> GetContextByName(const FName& InContextName);
+	void RemoveContextByName(const FName& InContextName);
 
 	/** The command of that name in the context, or null. */
-	TSharedPtr<FUICommandInfo> FindCommandInContext(const FName InBindingContext, const FName CommandName) const;
+	const TSharedPtr<FUICommandInfo> FindCommandInContext(const FName InBindingContext, const FName CommandName) const;
 	/** The commands of a context, in creation order. */
 	void GetCommandInfosFromContext(const FName InBindingContext, TArray<TSharedPtr<FUICommandInfo>>& OutCommandInfos) const;
 

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Framework/Docking/WorkspaceItem.h"
+#include "Misc/Attribute.h"
 #include "Textures/SlateIcon.h"
 #include "Widgets/Docking/SDockTab.h"
 
@@ -14,20 +15,23 @@ enum class ETabIdFlags : uint8
 };
 
 /** Identifies a tab: its type and, for tabs that may be open several times, an instance. */
-struct SLATE_API FTabId
+struct FTabId
 {
 	FTabId()
 		: InstanceId(INDEX_NONE)
+		, Flags(ETabIdFlags::SaveLayout)
 	{
 	}
 	FTabId(const FName InTabType, const int32 InInstanceId)
 		: TabType(InTabType)
 		, InstanceId(InInstanceId)
+		, Flags(ETabIdFlags::SaveLayout)
 	{
 	}
 	FTabId(const FName InTabType)
 		: TabType(InTabType)
 		, InstanceId(INDEX_NONE)
+		, Flags(ETabIdFlags::SaveLayout)
 	{
 	}
 	FTabId(const FName InTabType, const ETabIdFlags InFlags)
@@ -37,16 +41,20 @@ struct SLATE_API FTabId
 	{
 	}
 
+	bool IsTabPersistable() const { return InstanceId == INDEX_NONE; }
+	/** An unset instance matches every instance of the type. */
 	bool operator==(const FTabId& Other) const { return TabType == Other.TabType && (InstanceId == INDEX_NONE || Other.InstanceId == INDEX_NONE || InstanceId == Other.InstanceId); }
-	FString ToString() const { return InstanceId == INDEX_NONE ? TabType.ToString() : FString::Printf(TEXT("%s : %d"), *TabType.ToString(), InstanceId); }
+	FString ToString() const { return TabType.ToString(); }
 
 	FName TabType;
 	int32 InstanceId;
-	ETabIdFlags Flags = ETabIdFlags::SaveLayout;
+
+private:
+	ETabIdFlags Flags;
 };
 
 /** What a spawner is told about the tab it is asked to make. */
-class SLATE_API FSpawnTabArgs
+class FSpawnTabArgs
 {
 public:
 	FSpawnTabArgs(const TSharedPtr<SWindow>& InOwnerWindow, const FTabId& InTabBeingSpawenedId)
@@ -81,30 +89,65 @@ namespace ETabSpawnerMenuType
 }
 
 /** A registered tab spawner, with what the Window menu shows for it. */
-struct SLATE_API FTabSpawnerEntry : public FWorkspaceItem
+struct FTabSpawnerEntry : public FWorkspaceItem
 {
-	FTabSpawnerEntry(const FName& InTabType, const FOnSpawnTab& InSpawnTabMethod, const FCanSpawnTab& InCanSpawnTab);
+	FTabSpawnerEntry(const FName& InTabType, const FOnSpawnTab& InSpawnTabMethod, const FCanSpawnTab& InCanSpawnTab)
+		: FWorkspaceItem(FText(), FSlateIcon(), false)
+		, TabType(InTabType)
+		, OnSpawnTab(InSpawnTabMethod)
+		, CanSpawnTab(InCanSpawnTab)
+		, MenuType(ETabSpawnerMenuType::Enabled)
+		, bAutoGenerateMenuEntry(true)
+	{
+	}
 
-	FTabSpawnerEntry& SetIcon(const FSlateIcon& InIcon);
-	FTabSpawnerEntry& SetDisplayNameAttribute(const TAttribute<FText>& InLegibleName);
-	FTabSpawnerEntry& SetDisplayName(const FText& InLegibleName);
-	FTabSpawnerEntry& SetTooltipTextAttribute(const TAttribute<FText>& InTooltipText);
-	FTabSpawnerEntry& SetTooltipText(const FText& InTooltipText);
+	FTabSpawnerEntry& SetIcon(const FSlateIcon& InIcon)
+	{
+		Icon = InIcon;
+		return *this;
+	}
+	FTabSpawnerEntry& SetDisplayNameAttribute(const TAttribute<FText>& InLegibleName)
+	{
+		DisplayNameAttribute = InLegibleName;
+		return *this;
+	}
+	FTabSpawnerEntry& SetTooltipTextAttribute(const TAttribute<FText>& InTooltipText)
+	{
+		TooltipTextAttribute = InTooltipText;
+		return *this;
+	}
+	FTabSpawnerEntry& SetDisplayName(const FText& InLegibleName)
+	{
+		DisplayNameAttribute = InLegibleName;
+		return *this;
+	}
+	FTabSpawnerEntry& SetTooltipText(const FText& InTooltipText)
+	{
+		TooltipTextAttribute = InTooltipText;
+		return *this;
+	}
 	/** Puts the spawner in a group of the Window menu. */
-	FTabSpawnerEntry& SetGroup(const TSharedRef<FWorkspaceItem>& InGroup);
-	FTabSpawnerEntry& SetMenuType(const TAttribute<ETabSpawnerMenuType::Type>& InMenuType);
-	FTabSpawnerEntry& SetAutoGenerateMenuEntry(bool bInAutoGenerateMenuEntry);
+	FTabSpawnerEntry& SetGroup(const TSharedRef<FWorkspaceItem>& InGroup)
+	{
+		InGroup->AddItem(SharedThis(this));
+		return *this;
+	}
+	FTabSpawnerEntry& SetMenuType(const TAttribute<ETabSpawnerMenuType::Type>& InMenuType)
+	{
+		MenuType = InMenuType;
+		return *this;
+	}
+	FTabSpawnerEntry& SetAutoGenerateMenuEntry(bool bInAutoGenerateMenuEntry)
+	{
+		bAutoGenerateMenuEntry = bInAutoGenerateMenuEntry;
+		return *this;
+	}
 
-	virtual TSharedPtr<FTabSpawnerEntry> AsSpawnerEntry() override;
+	virtual TSharedPtr<FTabSpawnerEntry> AsSpawnerEntry() override { return SharedThis(this); }
 
 	const FName GetTabType() const { return TabType; }
-	const TAttribute<ETabSpawnerMenuType::Type>& GetMenuType() const { return MenuType; }
-	bool GetAutoGenerateMenuEntry() const { return bAutoGenerateMenuEntry; }
 
 private:
-	friend class FTabManager;
-	friend class FGlobalTabmanager;
-
 	FName TabType;
 	FOnSpawnTab OnSpawnTab;
 	FCanSpawnTab CanSpawnTab;
@@ -112,17 +155,22 @@ private:
 	bool bAutoGenerateMenuEntry;
 	/** The tab this spawner made while it is open, for invoking it again. */
 	TWeakPtr<SDockTab> SpawnedTabPtr;
+
+	friend class FTabManager;
 };
 
 /** Owns tab spawners and the tabs they made, and opens tabs by id. */
 class SLATE_API FTabManager : public TSharedFromThis<FTabManager>
 {
+	friend class FGlobalTabmanager;
+
 public:
-	virtual ~FTabManager() = default;
+	virtual ~FTabManager();
 
 	FTabSpawnerEntry& RegisterTabSpawner(const FName TabId, const FOnSpawnTab& OnSpawnTab, const FCanSpawnTab& CanSpawnTab = FCanSpawnTab());
 	bool UnregisterTabSpawner(const FName TabId);
-	bool HasTabSpawner(FName TabId) const;
+
+	virtual void DrawAttention(const TSharedRef<SDockTab>& TabToHighlight);
 
 	/** Opens the tab, or brings the open one forward; @return the tab, or nullptr if it cannot be made. */
 	virtual TSharedPtr<SDockTab> TryInvokeTab(const FTabId& TabId, bool bInvokeAsInactive = false);
@@ -130,20 +178,23 @@ public:
 	/** @return the open tab with this id, if any */
 	TSharedPtr<SDockTab> FindExistingLiveTab(const FTabId& TabId) const;
 
-	virtual void DrawAttention(const TSharedRef<SDockTab>& TabToHighlight);
-
-	/** Called by a tab that is closing. */
-	void OnTabClosing(const TSharedRef<SDockTab>& TabBeingClosed);
+	bool HasTabSpawner(FName TabId) const;
 
 protected:
-	FTabManager() = default;
+	typedef TMap<FName, TSharedRef<FTabSpawnerEntry>> FTabSpawner;
 
-	virtual TSharedPtr<FTabSpawnerEntry> FindTabSpawnerFor(FName TabId) const;
-	TSharedPtr<SDockTab> SpawnTab(const FTabId& TabId, const TSharedRef<FTabSpawnerEntry>& Spawner);
+	FTabManager(const TSharedPtr<SDockTab>& InOwnerTab, const TSharedRef<FTabManager::FTabSpawner>& InNomadTabSpawner);
 
-	TMap<FName, TSharedRef<FTabSpawnerEntry>> TabSpawner;
-	/** Open tabs, which the docking area would own. */
-	TArray<TPair<FTabId, TSharedRef<SDockTab>>> LiveTabs;
+	TSharedPtr<SDockTab> SpawnTab(const FTabId& TabId, const TSharedPtr<SWindow>& ParentWindow, const bool bCanOutputBeNullptr = false);
+
+	FTabSpawner TabSpawner;
+	TSharedRef<FTabSpawner> NomadTabSpawner;
+
+	/** Nomad spawners first, then this manager's own. */
+	TSharedPtr<FTabSpawnerEntry> FindTabSpawnerFor(FName TabId);
+	const TSharedPtr<const FTabSpawnerEntry> FindTabSpawnerFor(FName TabId) const;
+
+	TWeakPtr<SDockTab> OwnerTabPtr;
 };
 
 /** The application's tab manager: it holds the nomad tab spawners, which any window may open. */
@@ -156,15 +207,8 @@ public:
 	FTabSpawnerEntry& RegisterNomadTabSpawner(const FName TabId, const FOnSpawnTab& OnSpawnTab, const FCanSpawnTab& CanSpawnTab = FCanSpawnTab());
 	void UnregisterNomadTabSpawner(const FName TabId);
 
-	/** Headless only: closes every open tab and forgets every spawner, between test sessions. */
-	void ResetForHeadlessSession();
-
-protected:
-	virtual TSharedPtr<FTabSpawnerEntry> FindTabSpawnerFor(FName TabId) const override;
+	static TSharedRef<FGlobalTabmanager> New() { return MakeShareable(new FGlobalTabmanager()); }
 
 private:
-	/** The headless test driver reads registered spawners, which the engine shows only in its menus. */
-	friend class FWidgetDriver;
-
-	TMap<FName, TSharedRef<FTabSpawnerEntry>> NomadTabSpawner;
+	FGlobalTabmanager();
 };

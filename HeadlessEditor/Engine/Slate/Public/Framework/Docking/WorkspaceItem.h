@@ -29,10 +29,10 @@ public:
 
 	virtual ~FWorkspaceItem() = default;
 
-	FWorkspaceItem(const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren);
-	FWorkspaceItem(const FName& InTabId, const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren);
-
 protected:
+	FWorkspaceItem(const FText& InDisplayName, const FSlateIcon& InIcon, const bool bInSortChildren);
+	FWorkspaceItem(const FText& InDisplayName, const FText& InTooltipText, const FSlateIcon& InIcon, const bool bInSortChildren);
+
 	FSlateIcon Icon;
 	TAttribute<FText> DisplayNameAttribute;
 	TAttribute<FText> TooltipTextAttribute;

@@ -10,6 +10,7 @@
 
 class FMultiBox;
 class ISlateStyle;
+class SMultiBoxWidget;
 
 /** One element of a menu or toolbar: an entry, a heading, a separator. */
 class SLATE_API FMultiBlock : public TSharedFromThis<FMultiBlock>
@@ -19,11 +20,11 @@ public:
 	FMultiBlock(const FUIAction& InAction, FName InExtensionHook = NAME_None, EMultiBlockType InType = EMultiBlockType::None, bool bInIsPartOfHeading = false);
 	virtual ~FMultiBlock() {}
 
-	const FUIAction* GetDirectActions() const { return &Action; }
-	const TSharedPtr<const FUICommandInfo> GetAction() const { return CommandInfo; }
-	const TSharedPtr<const FUICommandList> GetActionList() const { return ActionList; }
+	const FUIAction& GetDirectActions() const { return Action; }
+	TSharedPtr<const FUICommandInfo> GetAction() const { return CommandInfo; }
+	TSharedPtr<const FUICommandList> GetActionList() const { return ActionList; }
 	FName GetExtensionHook() const { return ExtensionHook; }
-	EMultiBlockType GetType() const { return Type; }
+	const EMultiBlockType GetType() const { return Type; }
 	bool IsPartOfHeading() const { return bIsPartOfHeading; }
 
 	void SetTutorialHighlightName(FName InTutorialName) { TutorialHighlightName = InTutorialName; }
@@ -43,11 +44,14 @@ private:
 class SLATE_API FMultiBox : public TSharedFromThis<FMultiBox>
 {
 public:
-	DECLARE_DELEGATE_OneParam(FOnMakeMultiBoxBuilderOverride, const TSharedRef<FMultiBox>&);
+	DECLARE_DELEGATE_TwoParams(FOnMakeMultiBoxBuilderOverride, const TSharedRef<FMultiBox>&, const TSharedRef<SMultiBoxWidget>&);
 
-	static TSharedRef<FMultiBox> Create(const EMultiBoxType InType, bool bInShouldCloseWindowAfterMenuSelection);
+	static TSharedRef<FMultiBox> Create(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection);
 
-	EMultiBoxType GetType() const { return Type; }
+	const EMultiBoxType GetType() const { return Type; }
+
+	/** The name the user's customization of this box is saved under; NAME_None when it cannot be customized. */
+	FName GetCustomizationName() const;
 	bool ShouldCloseWindowAfterMenuSelection() const { return bShouldCloseWindowAfterMenuSelection; }
 
 	void AddMultiBlock(TSharedRef<const FMultiBlock> InBlock);
@@ -61,12 +65,13 @@ public:
 	TSharedRef<class SMultiBoxWidget> MakeWidget(bool bSearchable, FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride = nullptr, TAttribute<float> InMaxHeight = TAttribute<float>());
 
 private:
-	FMultiBox(const EMultiBoxType InType, bool bInShouldCloseWindowAfterMenuSelection);
+	FMultiBox(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection);
 
 	TArray<TSharedRef<const FMultiBlock>> Blocks;
 	const ISlateStyle* StyleSet = nullptr;
 	FName StyleName;
 	EMultiBoxType Type;
+	FMultiBoxCustomization Customization;
 	bool bShouldCloseWindowAfterMenuSelection;
 };
 
@@ -90,7 +95,9 @@ public:
 		bool GetSearchable() const { return bSearchable; }
 
 		void SetMaxHeight(TAttribute<float> InMaxHeight) { MaxHeight = InMaxHeight; }
-		const TAttribute<float>& GetMaxHeight() const { return MaxHeight; }
+
+		/** Builds this MultiBox widget up from the MultiBox associated with it */
+		void BuildMultiBoxWidget();
 
 	private:
 		TSharedPtr<FMultiBox> MultiBox;

@@ -29,3 +29,26 @@ enum class EMultiBlockType : uint8
 	ToolBarComboButton,
 	Widget,
 };
+
+/** Names a multi-box whose layout the user may customize, so that the customization can be saved. */
+struct SLATE_API FMultiBoxCustomization
+{
+	static const FMultiBoxCustomization None;
+
+	static FMultiBoxCustomization AllowCustomization(FName InCustomizationName)
+	{
+		ensure(InCustomizationName != NAME_None);
+		return FMultiBoxCustomization(InCustomizationName);
+	}
+
+	FName GetCustomizationName() const { return CustomizationName; }
+
+	FMultiBoxCustomization(FName InCustomizationName)
+		: CustomizationName(InCustomizationName)
+	{
+	}
+
+private:
+	/** The Name of the customization that uniquely identifies the multibox for saving and loading users data*/
+	FName CustomizationName;
+};

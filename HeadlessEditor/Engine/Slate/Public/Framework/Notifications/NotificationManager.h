@@ -9,21 +9,18 @@ class SLATE_API FSlateNotificationManager
 public:
 	static FSlateNotificationManager& Get();
 
-	/** Shows a new notification. @return the notification, or null if it could not be shown. */
-	TSharedPtr<SNotificationItem> AddNotification(const FNotificationInfo& Info);
-
 	/** Lets time pass for the notifications: fades advance and finished ones go away. */
 	void Tick();
 
-	/** Headless editor: the notifications on screen, oldest first. */
-	const TArray<TSharedRef<SNotificationItem>>& GetNotifications() const { return Notifications; }
-	/** Headless editor: removes every notification, as closing the editor does. */
-	void ResetForHeadlessSession() { Notifications.Reset(); }
+	/** Shows a new notification. @return the notification, or null if it could not be shown. */
+	TSharedPtr<SNotificationItem> AddNotification(const FNotificationInfo& Info);
+
+	void SetAllowNotifications(const bool bShouldAllow) { this->bAllowNotifications = bShouldAllow; }
+	bool AreNotificationsAllowed() const { return this->bAllowNotifications; }
+
+protected:
+	FSlateNotificationManager();
 
 private:
-	friend class SNotificationItemImpl;
-
-	void RemoveNotification(const TSharedRef<SNotificationItem>& Item);
-
-	TArray<TSharedRef<SNotificationItem>> Notifications;
+	bool bAllowNotifications;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
 
@@ -43,11 +44,15 @@ public:
 		SLATE_END_ARGS()
 
 		SDockTab();
+		virtual ~SDockTab();
 		void Construct(const FArguments& InArgs);
 
 		/** What this tab shows. */
 		TSharedRef<SWidget> GetContent();
-		void SetContent(TSharedRef<SWidget> InContent);
+		virtual void SetContent(TSharedRef<SWidget> InContent) override;
+
+		/** The brush the docking area draws behind the tab's content. */
+		const FSlateBrush* GetContentAreaBrush() const;
 
 		ETabRole GetTabRole() const { return TabRole; }
 		ETabRole GetVisualTabRole() const { return TabRole; }
@@ -62,16 +67,16 @@ public:
 		/** Closes the tab if it can close; @return whether it closed. */
 		bool RequestCloseTab();
 
-		/** Draws the user's eye to the tab; the headless editor only counts the requests. */
-		void FlashTab() { ++FlashCount; }
+		/** Draws the user's eye to the tab: its tab well flashes it. */
+		void FlashTab();
 
 		/** The tab manager that spawned this tab. */
 		TSharedPtr<FTabManager> GetTabManagerPtr() const { return MyTabManager.Pin(); }
 		void SetTabManager(const TSharedPtr<FTabManager>& InTabManager) { MyTabManager = InTabManager; }
 
 	private:
-		// The headless test driver reads how often a tab asked for attention.
-		friend class FWidgetDriver;
+		/** The tab style of the tab's role: major tabs have their own. */
+		const FDockTabStyle& GetCurrentStyle() const;
 
 		TSharedRef<SWidget> Content;
 		ETabRole TabRole;
@@ -79,6 +84,5 @@ public:
 		FOnTabClosedCallback OnTabClosed;
 		FCanCloseTab OnCanCloseTab;
 		bool bCanEverClose;
-		int32 FlashCount;
 		TWeakPtr<FTabManager> MyTabManager;
 };

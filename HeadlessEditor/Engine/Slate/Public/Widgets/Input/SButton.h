@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 #include "Framework/SlateDelegates.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Layout/SBorder.h"
@@ -12,14 +14,16 @@ class SLATE_API SButton : public SBorder
 public:
 	SLATE_BEGIN_ARGS(SButton)
 		: _Content()
-		, _ButtonStyle(&FButtonStyle::GetDefault())
-		, _TextStyle(&FTextBlockStyle::GetDefault())
+		, _ButtonStyle(&FCoreStyle::Get().GetWidgetStyle<FButtonStyle>("Button"))
+		, _TextStyle(&FCoreStyle::Get().GetWidgetStyle<FTextBlockStyle>("ButtonText"))
 		, _HAlign(HAlign_Fill)
 		, _VAlign(VAlign_Fill)
 		, _ContentPadding(FMargin(4.0f, 2.0f))
 		, _Text()
 		, _ButtonColorAndOpacity(FLinearColor::White)
-		, _ForegroundColor(FSlateColor::UseForeground())
+		, _DesiredSizeScale(FVector2D(1, 1))
+		, _ContentScale(FVector2D(1, 1))
+		, _ForegroundColor(FSlateColor::UseStyle())
 		, _IsFocusable(true)
 		{
 		}
@@ -45,6 +49,10 @@ public:
 		SLATE_EVENT(FSimpleDelegate, OnReleased)
 		SLATE_EVENT(FSimpleDelegate, OnHovered)
 		SLATE_EVENT(FSimpleDelegate, OnUnhovered)
+		/** Sets the scale of the button's desired size */
+		SLATE_ATTRIBUTE(FVector2D, DesiredSizeScale)
+		/** Sets the scale of the button's content */
+		SLATE_ATTRIBUTE(FVector2D, ContentScale)
 		/** The color multiplier for the button images */
 		SLATE_ATTRIBUTE(FSlateColor, ButtonColorAndOpacity)
 		/** The foreground color of the button */
@@ -54,28 +62,53 @@ public:
 		SLATE_END_ARGS()
 
 		SButton();
-		void Construct(const FArguments& InArgs);
 
-		/** @return An image that represents this button's border */
+	public:
+		virtual FSlateColor GetForegroundColor() const final;
+		virtual FSlateColor GetDisabledForegroundColor() const final;
+
+		/** @return whether the button is pressed */
 		bool IsPressed() const { return bIsPressed; }
 
+		void Construct(const FArguments& InArgs);
+
+		void SetContentPadding(TAttribute<FMargin> InContentPadding) { ContentPaddingAttribute = MoveTemp(InContentPadding); }
 		/** See OnClicked event */
 		void SetOnClicked(FOnClicked InOnClicked) { OnClicked = MoveTemp(InOnClicked); }
+		void SetButtonStyle(const FButtonStyle* ButtonStyle);
 
 		/** Acts as if the button had been clicked: runs OnClicked. */
 		void SimulateClick();
 
+	public:
+		/** Draws the style's brush for the button's state, then the content. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 		virtual bool SupportsKeyboardFocus() const override { return bIsFocusable; }
-		virtual bool IsInteractable() const override { return IsEnabled(); }
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 		virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
+		virtual bool IsInteractable() const override { return IsEnabled(); }
 
 	private:
-		FReply ExecuteOnClick();
+		/** The content with its padding; the brush's size when the button has no content. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
 
+	protected:
+		FReply ExecuteOnClick();
+		/** The content padding plus the style's padding for the button's state. */
+		FMargin GetCombinedPadding() const;
+		/** Whether the button greys itself when disabled: only when its style has no brush for that. */
+		bool GetShowDisabledEffect() const;
+
+	private:
+		/** The style's brush for the button's state. */
+		const FSlateBrush* GetStateBrush() const;
+
+		const FButtonStyle* Style;
 		FOnClicked OnClicked;
 		FSimpleDelegate OnPressed;
 		FSimpleDelegate OnReleased;
+		TAttribute<FSlateColor> BorderForegroundColorAttribute;
+		TAttribute<FMargin> ContentPaddingAttribute;
 		bool bIsFocusable;
 		bool bIsPressed;
 };

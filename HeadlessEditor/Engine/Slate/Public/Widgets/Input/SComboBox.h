@@ -6,10 +6,35 @@
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/Input/SComboButton.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/Views/SListView.h"
+#include "Widgets/Views/STableRow.h"
 
 #include <algorithm>
 
-DECLARE_DELEGATE(FOnComboBoxOpening)
+DECLARE_DELEGATE(FOnComboBoxOpening);
+
+/** A row of a combo box's drop-down list. */
+template <typename OptionType>
+class SComboRow : public STableRow<OptionType>
+{
+public:
+	SLATE_BEGIN_ARGS(SComboRow)
+		: _Style(&FAppStyle::Get().GetWidgetStyle<FTableRowStyle>("ComboBox.Row"))
+		, _Content()
+		, _Padding(FMargin(0))
+		{
+		}
+		SLATE_STYLE_ARGUMENT(FTableRowStyle, Style)
+		SLATE_DEFAULT_SLOT(FArguments, Content)
+		SLATE_ATTRIBUTE(FMargin, Padding)
+		SLATE_END_ARGS()
+
+		void Construct(const FArguments& InArgs, const TSharedRef<STableViewBase>& InOwnerTable)
+		{
+			STableRow<OptionType>::Construct(typename STableRow<OptionType>::FArguments().Style(InArgs._Style).Padding(InArgs._Padding).Content()[InArgs._Content.Widget], InOwnerTable);
+		}
+};
 
 /** A drop-down list of options: the button shows the content slot, the list shows a row per option. */
 template <typename OptionType>
@@ -24,11 +49,11 @@ public:
 
 	SLATE_BEGIN_ARGS(SComboBox)
 		: _Content()
-		, _ComboBoxStyle(&FComboBoxStyle::GetDefault())
+		, _ComboBoxStyle(&FAppStyle::Get().GetWidgetStyle<FComboBoxStyle>("ComboBox"))
 		, _ButtonStyle(nullptr)
-		, _ItemStyle(&FTableRowStyle::GetDefault())
-		, _ContentPadding(FMargin(4.0f, 2.0f))
-		, _ForegroundColor(FSlateColor::UseForeground())
+		, _ItemStyle(&FAppStyle::Get().GetWidgetStyle<FTableRowStyle>("ComboBox.Row"))
+		, _ContentPadding(_ComboBoxStyle->ContentPadding)
+		, _ForegroundColor(FSlateColor::UseStyle())
 		, _OptionsSource(nullptr)
 		, _OnSelectionChanged()
 		, _OnGenerateWidget()
@@ -68,10 +93,18 @@ public:
 			OnSelectionChanged = InArgs._OnSelectionChanged;
 			OnGenerateWidget = InArgs._OnGenerateWidget;
 			OnComboBoxOpening = InArgs._OnComboBoxOpening;
-			MaxListHeight = InArgs._MaxListHeight;
+			ItemStyle = InArgs._ItemStyle;
+			MenuRowPadding = InArgs._ComboBoxStyle->MenuRowPadding;
+
+			// The drop-down shows a list view of the options, as the engine's does.
+			TSharedRef<SWidget> ComboBoxMenuContent =
+				SNew(SVerticalBox) + SVerticalBox::Slot().MaxHeight(InArgs._MaxListHeight)[SAssignNew(ComboListView, SComboListType).ListItemsSource(InArgs._OptionsSource).OnGenerateRow(this, &SComboBox<OptionType>::GenerateMenuItemRow).OnSelectionChanged(this, &SComboBox<OptionType>::OnSelectionChanged_Internal).SelectionMode(ESelectionMode::Single)];
 
 			SComboButton::Construct(SComboButton::FArguments()
+										.ComboButtonStyle(&InArgs._ComboBoxStyle->ComboButtonStyle)
+										.ButtonStyle(InArgs._ButtonStyle)
 										.ButtonContent()[InArgs._Content.Widget]
+										.MenuContent()[ComboBoxMenuContent]
 										.ContentPadding(InArgs._ContentPadding)
 										.ForegroundColor(InArgs._ForegroundColor)
 										.HasDownArrow(InArgs._HasDownArrow)
@@ -79,26 +112,24 @@ public:
 
 			// The initial selection is stored without telling anyone.
 			SelectedItem = InArgs._InitiallySelectedItem;
-		}
-
-		void ClearSelection()
-		{
 			if (TListTypeTraits<OptionType>::IsPtrValid(SelectedItem))
 			{
-				OnSelectionChanged_Internal(TListTypeTraits<OptionType>::MakeNullPtr(), ESelectInfo::Direct);
+				ComboListView->Private_SetItemSelection(TListTypeTraits<OptionType>::NullableItemTypeConvertToItemType(SelectedItem), true);
 			}
 		}
+
+		void ClearSelection() { ComboListView->ClearSelection(); }
 
 		/** Selects an item; OnSelectionChanged fires only if it is not already the selected one. */
 		void SetSelectedItem(NullableOptionType InSelectedItem)
 		{
 			if (TListTypeTraits<OptionType>::IsPtrValid(InSelectedItem))
 			{
-				OnSelectionChanged_Internal(InSelectedItem, ESelectInfo::Direct);
+				ComboListView->SetSelection(TListTypeTraits<OptionType>::NullableItemTypeConvertToItemType(InSelectedItem));
 			}
 			else
 			{
-				ClearSelection();
+				ComboListView->ClearSelection();
 			}
 		}
 
@@ -106,11 +137,12 @@ public:
 		NullableOptionType GetSelectedItem() { return SelectedItem; }
 
 		/** Requests a list refresh after updating options. */
-		void RefreshOptions() {}
+		void RefreshOptions() { ComboListView->RequestListRefresh(); }
 
+	protected:
 		virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override
 		{
-			if (IsInteractable())
+			if (this->IsInteractable())
 			{
 				const FKey Key = InKeyEvent.GetKey();
 				if (Key == EKeys::Up || Key == EKeys::Down)
@@ -120,16 +152,28 @@ public:
 				}
 				if (Key == EKeys::Enter || Key == EKeys::SpaceBar)
 				{
-					OnComboBoxOpening.ExecuteIfBound();
 					return OnButtonClicked();
 				}
 			}
 			return SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
 		}
 
+		virtual bool SupportsKeyboardFocus() const override { return this->bIsFocusable; }
+
+		virtual bool IsInteractable() const override { return this->IsEnabled(); }
+
 	private:
-		// The headless test driver picks options and builds the option rows as the open list would.
-		friend class FWidgetDriver;
+		typedef SListView<OptionType> SComboListType;
+
+		/** Opening the drop-down tells the owner first; closing it keeps the selection. */
+		virtual FReply OnButtonClicked() override
+		{
+			if (!IsOpen())
+			{
+				OnComboBoxOpening.ExecuteIfBound();
+			}
+			return SComboButton::OnButtonClicked();
+		}
 
 		/** A row of the list was chosen, or the selection was set. */
 		void OnSelectionChanged_Internal(NullableOptionType ProposedSelection, ESelectInfo::Type SelectInfo)
@@ -154,16 +198,26 @@ public:
 			}
 			const int32 Current = OptionsSource->Find(SelectedItem);
 			const int32 Next = Current == INDEX_NONE ? 0 : std::min(std::max(Current + Step, 0), OptionsSource->Num() - 1);
-			OnSelectionChanged_Internal((*OptionsSource)[Next], ESelectInfo::OnKeyPress);
+			ComboListView->SetSelection((*OptionsSource)[Next], ESelectInfo::OnKeyPress);
 		}
 
-		/** The row widget for an option, as the list shows it. */
-		TSharedRef<SWidget> GenerateMenuItemRow(OptionType InItem) { return OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(InItem) : SNullWidget::NullWidget; }
+		/** The list row for an option: the widget OnGenerateWidget makes for it. */
+		TSharedRef<ITableRow> GenerateMenuItemRow(OptionType InItem, const TSharedRef<STableViewBase>& OwnerTable)
+		{
+			const TSharedRef<SWidget> Content = OnGenerateWidget.IsBound() ? OnGenerateWidget.Execute(InItem) : SNullWidget::NullWidget;
+			return SNew(SComboRow<OptionType>, OwnerTable).Style(ItemStyle).Padding(MenuRowPadding)[Content];
+		}
+
+		/** The item style to use. */
+		const FTableRowStyle* ItemStyle = nullptr;
+
+		/** The padding around each menu row */
+		FMargin MenuRowPadding;
 
 		const TArray<OptionType>* OptionsSource = nullptr;
 		NullableOptionType SelectedItem = TListTypeTraits<OptionType>::MakeNullPtr();
+		TSharedPtr<SComboListType> ComboListView;
 		FOnSelectionChanged OnSelectionChanged;
 		FOnGenerateWidget OnGenerateWidget;
 		FOnComboBoxOpening OnComboBoxOpening;
-		float MaxListHeight = 450.0f;
 };

@@ -42,6 +42,7 @@ public:
 		void Construct(const FArguments& InArgs);
 
 		virtual FChildren* GetChildren() override { return &ChildSlot; }
+		virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 
 		void SetContent(const TSharedRef<SWidget>& InContent) { ChildSlot[InContent]; }
 		void SetHAlign(EHorizontalAlignment HAlign) { ChildSlot.SetHorizontalAlignment(HAlign); }
@@ -55,9 +56,15 @@ public:
 		void SetMaxDesiredHeight(TAttribute<FOptionalSize> InMaxDesiredHeight) { MaxDesiredHeight = MoveTemp(InMaxDesiredHeight); }
 
 	protected:
+		/** The overrides where set; otherwise the content's size with padding, kept within the min and max. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
+
 		TSingleWidgetChildrenWithBasicLayoutSlot<EInvalidateWidgetReason::None> ChildSlot;
 
 	private:
+		float ComputeDesiredWidth() const;
+		float ComputeDesiredHeight() const;
+
 		TAttribute<FOptionalSize> WidthOverride;
 		TAttribute<FOptionalSize> HeightOverride;
 		TAttribute<FOptionalSize> MinDesiredWidth;

@@ -35,6 +35,16 @@ public:
 
 		void Construct(const FChildren& SlotOwner, FSlotArguments&& InArgs);
 
+		/** Below this wrap size, the slot takes a line of its own and fills it. */
+		TOptional<float> GetFillLineWhenSizeLessThan() const { return SlotFillLineWhenSizeLessThan; }
+		void SetFillLineWhenSizeLessThan(TOptional<float> InFillLineWhenSizeLessThan) { SlotFillLineWhenSizeLessThan = InFillLineWhenSizeLessThan; }
+		/** The last slot of a line fills what is left of it. */
+		bool GetFillEmptySpace() const { return bSlotFillEmptySpace; }
+		void SetFillEmptySpace(bool bInFillEmptySpace) { bSlotFillEmptySpace = bInFillEmptySpace; }
+		/** The slot starts a new line. */
+		bool GetForceNewLine() const { return bSlotForceNewLine; }
+		void SetForceNewLine(bool bInForceNewLine) { bSlotForceNewLine = bInForceNewLine; }
+
 	private:
 		TOptional<float> SlotFillLineWhenSizeLessThan;
 		bool bSlotFillEmptySpace = false;
@@ -75,15 +85,21 @@ public:
 		void ClearChildren() { Slots.Empty(); }
 		void SetInnerSlotPadding(FVector2D InInnerSlotPadding) { InnerSlotPadding = InInnerSlotPadding; }
 		void SetWrapSize(TAttribute<float> InWrapSize) { PreferredSize = MoveTemp(InWrapSize); }
-		void SetUseAllottedSize(bool bInUseAllottedSize) { bUseAllottedSize = bInUseAllottedSize; }
+		void SetUseAllottedSize(bool bInUseAllottedSize);
 		void SetOrientation(EOrientation InOrientation) { Orientation = InOrientation; }
 		void SetHorizontalAlignment(TAttribute<EHorizontalAlignment> InHAlignment) { HAlign = MoveTemp(InHAlignment); }
 
+		virtual void Tick(const FGeometry& AllottedGeometry, const double InCurrentTime, const float InDeltaTime) override;
+		virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 		virtual FChildren* GetChildren() override { return &Slots; }
 
+	protected:
+		/** The extent of the slots as they wrap at the preferred size. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
+
 	private:
-		// The headless test driver reads how the box wraps.
-		friend class FWidgetDriver;
+		/** Lays the slots out in lines no longer than the preferred size. */
+		class FChildArranger;
 
 		TPanelChildren<FSlot> Slots;
 		TAttribute<float> PreferredSize;

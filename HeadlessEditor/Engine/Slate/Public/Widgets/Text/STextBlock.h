@@ -3,6 +3,8 @@
 #include "CoreMinimal.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Framework/Text/TextLayout.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
 #include "Styling/SlateColor.h"
 #include "Styling/SlateTypes.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
@@ -14,7 +16,7 @@ class SLATE_API STextBlock : public SLeafWidget
 public:
 	SLATE_BEGIN_ARGS(STextBlock)
 		: _Text()
-		, _TextStyle(&FTextBlockStyle::GetDefault())
+		, _TextStyle(&FCoreStyle::Get().GetWidgetStyle<FTextBlockStyle>("NormalText"))
 		, _Font()
 		, _ColorAndOpacity()
 		, _Margin()
@@ -53,23 +55,25 @@ public:
 		void SetText(TAttribute<FText> InText) { BoundText = MoveTemp(InText); }
 		void SetFont(TAttribute<FSlateFontInfo> InFont) { Font = MoveTemp(InFont); }
 		void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
-		void SetTextStyle(const FTextBlockStyle* InTextStyle) { TextStyle = InTextStyle ? *InTextStyle : FTextBlockStyle::GetDefault(); }
+		void SetTextStyle(const FTextBlockStyle* InTextStyle);
 		void SetAutoWrapText(TAttribute<bool> InAutoWrapText) { AutoWrapText = MoveTemp(InAutoWrapText); }
 		void SetWrapTextAt(TAttribute<float> InWrapTextAt) { WrapTextAt = MoveTemp(InWrapTextAt); }
 		void SetMargin(TAttribute<FMargin> InMargin) { Margin = MoveTemp(InMargin); }
 		void SetJustification(TAttribute<ETextJustify::Type> InJustification) { Justification = MoveTemp(InJustification); }
 		void SetMinDesiredWidth(TAttribute<float> InMinDesiredWidth) { MinDesiredWidth = MoveTemp(InMinDesiredWidth); }
 
-	private:
-		// The headless test driver reads the font, colour, margin and justification a user would see.
-		friend class FWidgetDriver;
+		/** Draws each line of text where the margin and the justification put it, in the block's colour. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+		/** The text's lines, each as high as the font, plus the margin; at least the minimum width. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
 
+	private:
 		/** The colour to draw with: the one set on the block, else the style's. */
 		FSlateColor GetColorAndOpacity() const;
 		/** The font to draw with: the one set on the block, else the style's. */
 		FSlateFontInfo GetFont() const;
-		FMargin GetMargin() const { return Margin.Get(); }
-		ETextJustify::Type GetJustification() const { return Justification.Get(); }
+		/** The width lines wrap at: WrapTextAt, or the width last allotted when wrapping automatically, whichever is smaller. */
+		float GetWrappingWidth() const;
 
 		TAttribute<FText> BoundText;
 		FTextBlockStyle TextStyle;
@@ -80,4 +84,6 @@ public:
 		TAttribute<bool> AutoWrapText;
 		TAttribute<float> WrapTextAt;
 		TAttribute<float> MinDesiredWidth;
+		/** The width the block was last painted at, which automatic wrapping follows. */
+		mutable float CachedAllottedWidth;
 };

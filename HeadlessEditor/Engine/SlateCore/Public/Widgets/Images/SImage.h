@@ -30,13 +30,16 @@ public:
 		void Construct(const FArguments& InArgs);
 
 		void SetImage(TAttribute<const FSlateBrush*> InImage) { Image = MoveTemp(InImage); }
-		void SetColorAndOpacity(const TAttribute<FSlateColor>& InColorAndOpacity) { ColorAndOpacity = InColorAndOpacity; }
+		void SetColorAndOpacity(TAttribute<FSlateColor> InColorAndOpacity) { ColorAndOpacity = MoveTemp(InColorAndOpacity); }
+		void SetColorAndOpacity(FLinearColor InColorAndOpacity) { ColorAndOpacity = FSlateColor(InColorAndOpacity); }
 		void SetDesiredSizeOverride(TAttribute<TOptional<FVector2D>> InDesiredSizeOverride) { DesiredSizeOverride = MoveTemp(InDesiredSizeOverride); }
 
-		/** Headless only: the brush the image draws, read from its attribute. */
-		const FSlateBrush* GetImage() const { return Image.Get(); }
-		/** Headless only: the colour the image is tinted with. */
-		FSlateColor GetColorAndOpacity() const { return ColorAndOpacity.Get(); }
+		/** Draws the brush over the whole geometry, tinted by the image's colour and the brush's. */
+		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
+
+	protected:
+		/** The brush's image size, or the override when one is set; nothing without a brush. */
+		virtual FVector2D ComputeDesiredSize(float) const override;
 
 	private:
 		TAttribute<const FSlateBrush*> Image;

@@ -6,6 +6,8 @@
 /** Headless editor only: time and inspection for the notification area. */
 namespace UE::Headless
 {
+	/** The notifications on screen, oldest first. */
+	SLATE_API const TArray<TSharedRef<SNotificationItem>>& GetNotifications();
 	/** Lets time pass: expiring notifications fade out, finished ones leave the manager. */
 	SLATE_API void AdvanceNotificationTime(float DeltaSeconds);
 	/** The button of a notification with that label, as it was given to the manager; null if none. */

@@ -2,9 +2,6 @@
 
 #include "CoreMinimal.h"
 
-// The engine declares this type in ApplicationCore; the headless editor has no ApplicationCore
-// module yet, so SlateCore carries the part its input events need.
-
 /** Which modifier keys were down when an input event happened. */
 class FModifierKeysState
 {

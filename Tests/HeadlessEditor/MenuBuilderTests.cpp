@@ -4,15 +4,12 @@
 #include "Framework/Commands/UICommandInfo.h"
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
-#include "Framework/Notifications/NotificationManager.h"
-#include "Headless/HeadlessMenus.h"
-#include "Headless/HeadlessNotifications.h"
-#include "Widgets/Notifications/SNotificationList.h"
+#include "HeadlessMenus.h"
 
 #include <climits>
 #include <gtest/gtest.h>
 
-#define LOCTEXT_NAMESPACE "MenuAndNotificationTests"
+#define LOCTEXT_NAMESPACE "MenuBuilderTests"
 
 namespace
 {
@@ -37,7 +34,7 @@ namespace
 		TSharedPtr<FUICommandInfo> Mute;
 	};
 
-	class MenuBuilderTests : public ::testing::Test
+	class MenuBuilder : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -79,7 +76,7 @@ namespace
 		bool bMuted = false;
 	};
 
-	TEST_F(MenuBuilderTests, CommandEntriesTakeLabelToolTipAndTypeFromTheCommand)
+	TEST_F(MenuBuilder, CommandEntriesTakeLabelToolTipAndTypeFromTheCommand)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.AddMenuEntry(Commands().Start);
@@ -95,7 +92,7 @@ namespace
 		EXPECT_EQ(Lines[1].Type, EUserInterfaceActionType::ToggleButton);
 	}
 
-	TEST_F(MenuBuilderTests, OverridesReplaceTheCommandsLabelAndToolTip)
+	TEST_F(MenuBuilder, OverridesReplaceTheCommandsLabelAndToolTip)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.AddMenuEntry(Commands().Start, NAME_None, LOCTEXT("GoLive", "Go Live"), LOCTEXT("GoLiveTip", "Goes live now"));
@@ -107,7 +104,7 @@ namespace
 		EXPECT_EQ(Lines[0].ToolTip.ToString(), TEXT("Goes live now"));
 	}
 
-	TEST_F(MenuBuilderTests, CheckAndEnabledStatesAreReadFromTheCommandListWhenShown)
+	TEST_F(MenuBuilder, CheckAndEnabledStatesAreReadFromTheCommandListWhenShown)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.AddMenuEntry(Commands().Start);
@@ -127,7 +124,7 @@ namespace
 		EXPECT_EQ(StartCount, 1);
 	}
 
-	TEST_F(MenuBuilderTests, CommandsMissingFromTheListShowEnabledButRunNothing)
+	TEST_F(MenuBuilder, CommandsMissingFromTheListShowEnabledButRunNothing)
 	{
 		FMenuBuilder Builder(true, MakeShared<FUICommandList>());
 		Builder.AddMenuEntry(Commands().Start);
@@ -138,7 +135,7 @@ namespace
 		EXPECT_EQ(StartCount, 0);
 	}
 
-	TEST_F(MenuBuilderTests, SectionHeadingAppearsOnlyWithTheSectionsFirstEntry)
+	TEST_F(MenuBuilder, SectionHeadingAppearsOnlyWithTheSectionsFirstEntry)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.BeginSection(TEXT("Empty"), LOCTEXT("EmptyHeading", "Nothing Here"));
@@ -155,7 +152,7 @@ namespace
 		EXPECT_EQ(Lines[0].ExtensionHook, FName(TEXT("Stream")));
 	}
 
-	TEST_F(MenuBuilderTests, SectionsWithoutHeadingTextAddNoHeading)
+	TEST_F(MenuBuilder, SectionsWithoutHeadingTextAddNoHeading)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.BeginSection(TEXT("Plain"));
@@ -165,7 +162,7 @@ namespace
 		EXPECT_EQ(Kinds(UE::Headless::ReadMenu(Builder.MakeWidget())), TArray<EMenuLineKind>({EMenuLineKind::Entry}));
 	}
 
-	TEST_F(MenuBuilderTests, SeparatorIsNeverTheFirstBlock)
+	TEST_F(MenuBuilder, SeparatorIsNeverTheFirstBlock)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.AddSeparator();
@@ -176,14 +173,14 @@ namespace
 		EXPECT_EQ(Kinds(UE::Headless::ReadMenu(Builder.MakeWidget())), TArray<EMenuLineKind>({EMenuLineKind::Entry, EMenuLineKind::Separator, EMenuLineKind::Entry}));
 	}
 
-	TEST_F(MenuBuilderTests, BeginningASectionInsideAnotherIsFatal)
+	TEST_F(MenuBuilder, BeginningASectionInsideAnotherIsFatal)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.BeginSection(TEXT("Outer"));
 		EXPECT_DEATH(Builder.BeginSection(TEXT("Inner")), "Assertion failed");
 	}
 
-	TEST_F(MenuBuilderTests, MenusAreLimitedToAThousandPixelsUnlessToldOtherwise)
+	TEST_F(MenuBuilder, MenusAreLimitedToAThousandPixelsUnlessToldOtherwise)
 	{
 		FMenuBuilder Builder(true, CommandList);
 		Builder.AddMenuEntry(Commands().Start);
@@ -199,7 +196,7 @@ namespace
 		EXPECT_FALSE(UE::Headless::GetMenuMaxHeight(Builder.MakeWidget(nullptr, INT_MAX)).IsSet());
 	}
 
-	TEST_F(MenuBuilderTests, ActionEntriesUseTheirOwnLabelAndType)
+	TEST_F(MenuBuilder, ActionEntriesUseTheirOwnLabelAndType)
 	{
 		bool bRan = false;
 		FMenuBuilder Builder(true, nullptr);
@@ -216,146 +213,6 @@ namespace
 		EXPECT_EQ(Lines[0].CommandName, NAME_None);
 		EXPECT_TRUE(UE::Headless::ClickMenuEntry(Menu, TEXT("Direct Action")));
 		EXPECT_TRUE(bRan);
-	}
-
-	class NotificationTests : public ::testing::Test
-	{
-	protected:
-		virtual void SetUp() override
-		{
-			FSlateApplication::Create();
-			UE::Headless::ResetNotifications();
-		}
-
-		virtual void TearDown() override
-		{
-			UE::Headless::ResetNotifications();
-			FSlateApplication::Shutdown();
-		}
-
-		static FNotificationInfo MakeInfo(bool bFireAndForget)
-		{
-			FNotificationInfo Info(LOCTEXT("Streaming", "Streaming started"));
-			Info.bFireAndForget = bFireAndForget;
-			Info.FadeInDuration = 0.5f;
-			Info.ExpireDuration = 1.0f;
-			Info.FadeOutDuration = 2.0f;
-			return Info;
-		}
-
-		static bool IsShown(const TWeakPtr<SNotificationItem>& Item)
-		{
-			const TSharedPtr<SNotificationItem> Pinned = Item.Pin();
-			return Pinned.IsValid() && FSlateNotificationManager::Get().GetNotifications().Contains(Pinned.ToSharedRef());
-		}
-	};
-
-	TEST_F(NotificationTests, ButtonsAreVisibleOnlyInTheStateTheyWereGivenFor)
-	{
-		const FNotificationButtonInfo Default(LOCTEXT("Cancel", "Cancel"), FText::GetEmpty(), FSimpleDelegate());
-		EXPECT_EQ(Default.VisibilityOnPending, EVisibility::Visible);
-		EXPECT_EQ(Default.VisibilityOnNone, EVisibility::Collapsed);
-		EXPECT_EQ(Default.VisibilityOnSuccess, EVisibility::Collapsed);
-		EXPECT_EQ(Default.VisibilityOnFail, EVisibility::Collapsed);
-
-		const FNotificationButtonInfo OnFail(LOCTEXT("Retry", "Retry"), FText::GetEmpty(), FSimpleDelegate(), SNotificationItem::CS_Fail);
-		EXPECT_EQ(OnFail.VisibilityOnFail, EVisibility::Visible);
-		EXPECT_EQ(OnFail.VisibilityOnPending, EVisibility::Collapsed);
-	}
-
-	TEST_F(NotificationTests, NewNotificationsStartWithNoCompletionStateAndKeepTheOneSet)
-	{
-		const TSharedPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(MakeInfo(false));
-		ASSERT_TRUE(Item.IsValid());
-		EXPECT_EQ(Item->GetCompletionState(), SNotificationItem::CS_None);
-
-		Item->SetCompletionState(SNotificationItem::CS_Pending);
-		EXPECT_EQ(Item->GetCompletionState(), SNotificationItem::CS_Pending);
-		Item->SetCompletionState(SNotificationItem::CS_Success);
-		EXPECT_EQ(Item->GetCompletionState(), SNotificationItem::CS_Success);
-	}
-
-	TEST_F(NotificationTests, NotificationsThatAreNotFireAndForgetStayUntilToldToGo)
-	{
-		TWeakPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(MakeInfo(false));
-		EXPECT_FALSE(UE::Headless::IsFireAndForget(*Item.Pin()));
-
-		UE::Headless::AdvanceNotificationTime(60.0f);
-		EXPECT_TRUE(IsShown(Item));
-	}
-
-	TEST_F(NotificationTests, FireAndForgetNotificationsWaitForFadeInAndExpireThenFadeOut)
-	{
-		TWeakPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(MakeInfo(true));
-
-		// Fade-in 0.5 s + expire 1 s before the 2 s fade-out starts: gone after 3.5 s.
-		UE::Headless::AdvanceNotificationTime(1.4f);
-		EXPECT_TRUE(IsShown(Item));
-		UE::Headless::AdvanceNotificationTime(1.9f);
-		EXPECT_TRUE(IsShown(Item)) << "Still fading out at 3.3 s";
-		UE::Headless::AdvanceNotificationTime(0.3f);
-		EXPECT_FALSE(IsShown(Item));
-		EXPECT_FALSE(Item.IsValid()) << "The manager held the last reference to a finished notification";
-	}
-
-	TEST_F(NotificationTests, ExpireAndFadeoutCountsFromWhenItIsCalled)
-	{
-		TSharedPtr<SNotificationItem> Pinned = FSlateNotificationManager::Get().AddNotification(MakeInfo(false));
-		Pinned->SetCompletionState(SNotificationItem::CS_Pending);
-		const TWeakPtr<SNotificationItem> Item = Pinned;
-
-		UE::Headless::AdvanceNotificationTime(10.0f);
-		Pinned->SetCompletionState(SNotificationItem::CS_Success);
-		Pinned->ExpireAndFadeout();
-		Pinned.Reset();
-
-		UE::Headless::AdvanceNotificationTime(3.3f);
-		EXPECT_TRUE(IsShown(Item));
-		UE::Headless::AdvanceNotificationTime(0.3f);
-		EXPECT_FALSE(IsShown(Item));
-		EXPECT_FALSE(Item.IsValid());
-	}
-
-	TEST_F(NotificationTests, DurationsSetWhileWaitingToExpireStillCount)
-	{
-		TSharedPtr<SNotificationItem> Pinned = FSlateNotificationManager::Get().AddNotification(MakeInfo(true));
-		const TWeakPtr<SNotificationItem> Item = Pinned;
-		Pinned->SetExpireDuration(5.0f);
-		Pinned.Reset();
-
-		// Fade-in 0.5 s + expire 5 s + fade-out 2 s.
-		UE::Headless::AdvanceNotificationTime(7.3f);
-		EXPECT_TRUE(IsShown(Item));
-		UE::Headless::AdvanceNotificationTime(0.4f);
-		EXPECT_FALSE(IsShown(Item));
-	}
-
-	TEST_F(NotificationTests, FadeoutRemovesAfterTheFadeOutDurationAlone)
-	{
-		TSharedPtr<SNotificationItem> Pinned = FSlateNotificationManager::Get().AddNotification(MakeInfo(false));
-		const TWeakPtr<SNotificationItem> Item = Pinned;
-		Pinned->Fadeout();
-		Pinned.Reset();
-
-		UE::Headless::AdvanceNotificationTime(1.9f);
-		EXPECT_TRUE(IsShown(Item));
-		UE::Headless::AdvanceNotificationTime(0.2f);
-		EXPECT_FALSE(Item.IsValid());
-	}
-
-	TEST_F(NotificationTests, ButtonsKeepTheirCallbacks)
-	{
-		int32 Clicks = 0;
-		FNotificationInfo Info = MakeInfo(false);
-		Info.ButtonDetails.Add(FNotificationButtonInfo(LOCTEXT("Stop", "Stop"), LOCTEXT("StopTip", "Stops the stream"), FSimpleDelegate::CreateLambda([&Clicks]()
-																															{ ++Clicks; })));
-		const TSharedPtr<SNotificationItem> Item = FSlateNotificationManager::Get().AddNotification(Info);
-
-		const FNotificationButtonInfo* Button = UE::Headless::FindNotificationButton(*Item, TEXT("Stop"));
-		ASSERT_NE(Button, nullptr);
-		EXPECT_EQ(UE::Headless::FindNotificationButton(*Item, TEXT("Start")), nullptr);
-		Button->Callback.ExecuteIfBound();
-		EXPECT_EQ(Clicks, 1);
 	}
 }
 

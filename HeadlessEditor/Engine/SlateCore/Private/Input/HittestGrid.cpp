@@ -1,0 +1,3 @@
+#include "Input/HittestGrid.h"
+
+FHittestGrid::FHittestGrid() = default;

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+/** Makes the textures a font cache puts its glyphs in; each renderer has its own. */
+class ISlateFontAtlasFactory
+{
+public:
+	virtual ~ISlateFontAtlasFactory() {}
+};
