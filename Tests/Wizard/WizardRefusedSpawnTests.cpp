@@ -1,3 +1,5 @@
+#include "AssetRegistry/IAssetRegistry.h"
+#include "Editor.h"
 #include "Editor/Transactor.h"
 #include "HeadlessWorld.h"
 #include "Kyro360CamCapture.h"
@@ -7,6 +9,7 @@
 #include "KyroSpoutSenderManager.h"
 #include "KyroViewportCapture.h"
 #include "KyroVirtualWebcamOutput.h"
+#include "Selection.h"
 #include "Styling/SlateColor.h"
 #include "WizardHarness.h"
 
@@ -52,16 +55,17 @@ namespace
 		virtual void TearDown() override { UE::Headless::SetRefusedSpawnClass(nullptr); }
 
 		/** The done page reports the failure in red, and the editor holds nothing of the attempt. */
-		void ExpectNothingLeft(const TArray<AActor*>& ActorsBefore) const
+		void ExpectNothingLeft(const TArray<AActor*>& ActorsBefore, const TArray<UObject*>& AssetsBefore = {}, int32 UndoStepsBefore = 0) const
 		{
 			EXPECT_TRUE(Harness.IsDonePageShown());
 			EXPECT_TRUE(Harness.GetDoneText()->GetText().ToString().Equals(TEXT("ERROR: Failed to create Livestream 'Stage'!")));
 			EXPECT_EQ(FWidgetDriver::GetColor(*Harness.GetDoneText()).GetSpecifiedColor(), FLinearColor::Red);
 			EXPECT_TRUE(Harness.GetDoneButtonText()->GetText().ToString().Equals(TEXT("Try Again")));
 			EXPECT_EQ(FLevelDriver::GetActors(), ActorsBefore);
-			EXPECT_TRUE(FLevelDriver::GetAssets(TEXT("/Game")).IsEmpty());
-			EXPECT_EQ(FLevelDriver::GetTransactionHistory()->GetQueueLength(), 0);
-			EXPECT_TRUE(FLevelDriver::GetSelectedActors().IsEmpty());
+			EXPECT_EQ(FLevelDriver::GetAssets(TEXT("/Game")), AssetsBefore);
+			EXPECT_EQ(FLevelDriver::GetTransactionHistory()->GetQueueLength(), UndoStepsBefore);
+			// The selection does not even hold the destroyed capture actor.
+			EXPECT_EQ(GEditor->GetSelectedActors()->Num(), 0);
 		}
 
 		FWizardHarness Harness;
@@ -117,6 +121,35 @@ TEST_P(WizardRefusedSpawn, TryingAgainOnceTheWorldAcceptsCreatesUnderTheSameName
 	EXPECT_EQ(FLevelDriver::GetAssets(TEXT("/Game")).Num(), 1);
 	EXPECT_EQ(FLevelDriver::GetActors().Num(), 5);
 	EXPECT_EQ(FLevelDriver::GetTransactionHistory()->GetQueueLength(), 1);
+}
+
+TEST_F(WizardRefusedSpawn, ARefusedOutputAfterAnEntryInAnExistingManagerLeavesItsEntriesAndTheEarlierSetup)
+{
+	Harness.Create(TEXT("Main"), TEXT("Spout"));
+	ASSERT_TRUE(Harness.ClickRestart());
+	AKyroSpoutSenderManager* Spout = FLevelDriver::GetActorsOf<AKyroSpoutSenderManager>()[0];
+	const TArray<FKyroSpoutSenderInterface> EntriesBefore = Spout->Senders;
+	const TArray<AActor*> ActorsBefore = FLevelDriver::GetActors();
+	const TArray<UObject*> AssetsBefore = FLevelDriver::GetAssets(TEXT("/Game"));
+	TArray<FString> Deleted;
+	const FDelegateHandle Handle = IAssetRegistry::GetChecked().OnInMemoryAssetDeleted().AddLambda([&Deleted](UObject* Asset)
+		{ Deleted.Add(Asset->GetPathName()); });
+	// The webcam is the last output: the Spout entry, the NDI manager and the media output are made before it fails.
+	UE::Headless::SetRefusedSpawnClass(AKyroVirtualWebcamOutput::StaticClass());
+
+	CreateWithEveryOutput(Harness, TEXT("Kyro Cinecam"));
+	IAssetRegistry::GetChecked().OnInMemoryAssetDeleted().Remove(Handle);
+
+	ExpectNothingLeft(ActorsBefore, AssetsBefore, 1);
+	ASSERT_EQ(Spout->Senders.Num(), EntriesBefore.Num());
+	EXPECT_TRUE(Spout->Senders[0].SenderName.Equals(TEXT("Main")));
+	EXPECT_EQ(Spout->Senders[0].RenderTarget, EntriesBefore[0].RenderTarget);
+	EXPECT_EQ(Deleted, TArray<FString>{TEXT("/Game/LivestreamWizard/Stage.Stage")});
+	EXPECT_EQ(FLevelDriver::FindAsset(TEXT("/Game/LivestreamWizard/Stage.Stage")), nullptr);
+
+	// The earlier create is still the one undo step, and undoes as it did.
+	EXPECT_TRUE(FLevelDriver::Undo());
+	EXPECT_TRUE(FLevelDriver::GetActors().IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(EachSpawn, WizardRefusedSpawn, ::testing::ValuesIn(Refusals), [](const ::testing::TestParamInfo<FRefusal>& Info)

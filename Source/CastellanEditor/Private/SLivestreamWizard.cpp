@@ -2,6 +2,7 @@
 
 #include "SLivestreamWizard.h"
 
+#include "AssetRegistry/AssetData.h"
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "AssetToolsModule.h"
@@ -28,11 +29,14 @@
 #include "KyroVirtualWebcamOutput.h"
 #include "LevelEditorViewport.h"
 #include "Modules/ModuleManager.h"
+#include "ObjectTools.h"
 #include "ScopedTransaction.h"
 #include "Selection.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/ISlateStyle.h"
 #include "UObject/NameTypes.h"
+#include "UObject/ObjectPtr.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "UnrealEdGlobals.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
@@ -53,6 +57,8 @@ namespace LivestreamWizard
 	const FMargin SectionPadding(0.0f, 8.0f, 0.0f, 0.0f);
 	const FMargin ItemPadding(0.0f, 2.0f);
 	const TCHAR* const AssetFolder = TEXT("/Game/LivestreamWizard/");
+	/** The same folder as the asset registry names package paths. */
+	const TCHAR* const AssetPackagePath = TEXT("/Game/LivestreamWizard");
 
 	/** A step's heading: regular, 10 points, mid grey. */
 	TSharedRef<STextBlock> MakeStepLabel(const FText& Text)
@@ -114,37 +120,32 @@ namespace LivestreamWizard
 		return GEditor->GetLevelViewportClients()[0]->GetWorld();
 	}
 
-	/** A new actor at the origin, noted in OutSpawnedActors; null if the world refuses it. */
+	/** A new actor at the origin with default spawn parameters; null if the world refuses it. */
 	template <typename ActorType>
-	ActorType* SpawnActor(UWorld* World, TArray<AActor*>& OutSpawnedActors)
+	ActorType* SpawnAtOrigin(UWorld* World)
 	{
-		ActorType* Actor = Cast<ActorType>(World->SpawnActor(ActorType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
-		if (Actor)
-		{
-			OutSpawnedActors.Add(Actor);
-		}
-		return Actor;
+		return Cast<ActorType>(World->SpawnActor(ActorType::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
 	}
 
-	/** The first sender manager of the level after Modify, or a new one when the level has none. */
+	/** The first sender manager of the level after Modify, or a new one when the level has none; null if that spawn is refused. */
 	template <typename ManagerType>
-	ManagerType* FindOrSpawnSenderManager(TArray<AActor*>& OutSpawnedActors)
+	ManagerType* FindOrCreateSenderManager()
 	{
 		UWorld* World = GetOutputWorld();
 		TArray<AActor*> Found;
 		UGameplayStatics::GetAllActorsOfClass(World, ManagerType::StaticClass(), Found);
-		if (Found.Num() > 0)
+		if (Found.Num() == 0)
 		{
-			Found[0]->Modify(true);
-			return Cast<ManagerType>(Found[0]);
+			ManagerType* Manager = SpawnAtOrigin<ManagerType>(World);
+			if (Manager)
+			{
+				ULevel::LevelDirtiedEvent.Broadcast();
+				GEditor->RedrawAllViewports(true);
+			}
+			return Manager;
 		}
-		ManagerType* Manager = SpawnActor<ManagerType>(World, OutSpawnedActors);
-		if (Manager)
-		{
-			ULevel::LevelDirtiedEvent.Broadcast();
-			GEditor->RedrawAllViewports(true);
-		}
-		return Manager;
+		Found[0]->Modify(true);
+		return Cast<ManagerType>(Found[0]);
 	}
 
 	/** A new render target asset in the wizard's folder, named uniquely after BasePackageName; null if the asset tools refuse. */
@@ -160,6 +161,41 @@ namespace LivestreamWizard
 			FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().AssetCreated(RenderTarget);
 		}
 		return RenderTarget;
+	}
+
+	/** Where each capture actor keeps the render target it renders into. */
+	TObjectPtr<UTextureRenderTarget2D>& RenderTargetOf(AKyroCineCamCapture& Capture)
+	{
+		return Capture.CaptureComponent->TextureTarget;
+	}
+
+	TObjectPtr<UTextureRenderTarget2D>& RenderTargetOf(AKyro360CamCapture& Capture)
+	{
+		return Capture.CaptureComponent->TextureTarget;
+	}
+
+	TObjectPtr<UTextureRenderTarget2D>& RenderTargetOf(AKyroViewportCapture& Capture)
+	{
+		return Capture.RenderTarget;
+	}
+
+	/** A new capture actor at the origin rendering into RenderTarget; null if the world refuses it. */
+	template <typename CaptureType>
+	AActor* SpawnCaptureActor(UWorld* World, UTextureRenderTarget2D* RenderTarget)
+	{
+		CaptureType* Capture = SpawnAtOrigin<CaptureType>(World);
+		if (Capture)
+		{
+			RenderTargetOf(*Capture) = RenderTarget;
+		}
+		return Capture;
+	}
+
+	/** The render target of a capture actor known to be of this class. */
+	template <typename CaptureType>
+	UTextureRenderTarget2D* GetCaptureRenderTarget(AActor* CaptureActor)
+	{
+		return RenderTargetOf(*Cast<CaptureType>(CaptureActor)).Get();
 	}
 
 	/** Moves the actor to the viewport's camera and makes it the editor's only selection. */
@@ -190,23 +226,147 @@ namespace LivestreamWizard
 		return Entry;
 	}
 
+	/** Appends the entry to the manager's senders and dirties the level; false without a manager. */
 	template <typename ManagerType, typename EntryType>
-	void AddSenderEntry(ManagerType* Manager, const EntryType& Entry)
+	bool AddSenderEntry(ManagerType* Manager, const EntryType& Entry)
 	{
+		if (!Manager)
+		{
+			return false;
+		}
 		Manager->Senders.Add(Entry);
 		Manager->GetWorld()->MarkPackageDirty();
 		ULevel::LevelDirtiedEvent.Broadcast();
+		return true;
 	}
 
-	/** Shows the render target on a media output or virtual webcam actor. */
+	/** Spawns a media output or virtual webcam actor at the origin, showing the render target; false if the world refuses it. */
 	template <typename OutputType>
-	void ConnectOutputActor(OutputType* Output, UTextureRenderTarget2D* RenderTarget)
+	bool CreateOutputActor(UTextureRenderTarget2D* RenderTarget)
 	{
+		OutputType* Output = SpawnAtOrigin<OutputType>(GetOutputWorld());
+		if (!Output)
+		{
+			return false;
+		}
 		Output->RenderTarget = RenderTarget;
 		GEditor->RedrawAllViewports(true);
 		Output->GetWorld()->MarkPackageDirty();
 		ULevel::LevelDirtiedEvent.Broadcast();
+		return true;
 	}
+
+	/** The actors of the level viewports' worlds, where a create spawns its actors. */
+	TArray<AActor*> GetLevelActors()
+	{
+		TArray<UWorld*> Worlds;
+		for (FLevelEditorViewportClient* Client : GEditor->GetLevelViewportClients())
+		{
+			Worlds.AddUnique(Client->GetWorld());
+		}
+		TArray<AActor*> Actors;
+		for (UWorld* World : Worlds)
+		{
+			TArray<AActor*> Found;
+			UGameplayStatics::GetAllActorsOfClass(World, AActor::StaticClass(), Found);
+			Actors.Append(Found);
+		}
+		return Actors;
+	}
+
+	/** The assets in the wizard's folder, as the asset registry lists them. */
+	TArray<FAssetData> GetWizardAssets()
+	{
+		TArray<FAssetData> Assets;
+		FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry")).Get().GetAssetsByPath(FName(AssetPackagePath), Assets);
+		return Assets;
+	}
+
+	/** The entry count of the level's first sender manager of a class, the one a create appends to. */
+	template <typename ManagerType>
+	class TSenderCount
+	{
+	public:
+		TSenderCount()
+		{
+			TArray<AActor*> Found;
+			UGameplayStatics::GetAllActorsOfClass(GetOutputWorld(), ManagerType::StaticClass(), Found);
+			if (Found.Num() > 0)
+			{
+				Manager = Cast<ManagerType>(Found[0]);
+				Num = Manager->Senders.Num();
+			}
+		}
+
+		/** Drops the entries appended since. */
+		void Trim() const
+		{
+			if (ManagerType* Existing = Manager.Get())
+			{
+				Existing->Senders.SetNum(Num);
+			}
+		}
+
+	private:
+		TWeakObjectPtr<ManagerType> Manager;
+		int32 Num = 0;
+	};
+
+	/**
+	 * What a create may change, noted before it starts. Cancelling the transaction drops the undo
+	 * step but keeps the changes already made, so a failed create takes back its own: the actors it
+	 * spawned, the sender entries it appended and the render target asset it made.
+	 */
+	class FCreateRollback
+	{
+	public:
+		FCreateRollback()
+			: Actors(GetLevelActors())
+		{
+			for (const FAssetData& Asset : GetWizardAssets())
+			{
+				AssetPackages.Add(Asset.PackageName);
+			}
+		}
+
+		/** Destroys the actors spawned since and drops the sender entries appended since. */
+		void RevertLevel() const
+		{
+			for (AActor* Actor : GetLevelActors())
+			{
+				if (!Actors.Contains(Actor))
+				{
+					GEditor->SelectActor(Actor, false, true);
+					Actor->Destroy();
+				}
+			}
+			SpoutSenders.Trim();
+			NDISenders.Trim();
+		}
+
+		/** Deletes the assets made in the wizard's folder since. */
+		void DeleteNewAssets() const
+		{
+			TArray<UObject*> NewAssets;
+			for (const FAssetData& Asset : GetWizardAssets())
+			{
+				if (!AssetPackages.Contains(Asset.PackageName))
+				{
+					NewAssets.Add(Asset.GetAsset());
+				}
+			}
+			if (NewAssets.Num() > 0)
+			{
+				ObjectTools::DeleteObjectsUnchecked(NewAssets);
+			}
+		}
+
+	private:
+		TArray<AActor*> Actors;
+		TSenderCount<AKyroSpoutSenderManager> SpoutSenders;
+		TSenderCount<AKyroNDISenderManager> NDISenders;
+		TArray<FName> AssetPackages;
+	};
 }
 
 const SLivestreamWizard::FOutputOption SLivestreamWizard::OutputOptions[] = {
@@ -539,21 +699,43 @@ bool SLivestreamWizard::CanCreateSetup() const
 bool SLivestreamWizard::CreateSetup() const
 {
 	FScopedTransaction Transaction(FText::FromString(TEXT("Create Setup")));
-	TArray<AActor*> SpawnedActors;
-	if (BuildSetup(SpawnedActors))
+	const LivestreamWizard::FCreateRollback Rollback;
+
+	FString AssetName;
+	AActor* Actor = CreateCaptureActor(AssetName);
+	bool bCreated = Actor != nullptr;
+	if (bCreated)
 	{
-		return true;
+		UTextureRenderTarget2D* RenderTarget = GetRenderTarget(Actor);
+		// The ticked outputs in their order; the first that fails ends the create.
+		if (SpoutCheckBox->IsChecked())
+		{
+			bCreated = CreateSpoutSender(RenderTarget, AssetName);
+		}
+		if (bCreated && NDICheckBox->IsChecked())
+		{
+			bCreated = CreateNDISender(RenderTarget, AssetName);
+		}
+		if (bCreated && MediaOutputCheckBox->IsChecked())
+		{
+			bCreated = CreateMediaOutput(RenderTarget);
+		}
+		if (bCreated && VirtualWebcamCheckBox->IsChecked())
+		{
+			bCreated = CreateVirtualCam(RenderTarget);
+		}
 	}
-	// A failed create leaves nothing behind: its actors go, and no undo step remains.
-	for (AActor* Actor : SpawnedActors)
+	if (!bCreated)
 	{
-		Actor->Destroy();
+		Rollback.RevertLevel();
+		Transaction.Cancel();
+		// Last, once no undo step refers to the asset any more.
+		Rollback.DeleteNewAssets();
 	}
-	Transaction.Cancel();
-	return false;
+	return bCreated;
 }
 
-bool SLivestreamWizard::BuildSetup(TArray<AActor*>& OutSpawnedActors) const
+AActor* SLivestreamWizard::CreateCaptureActor(FString& OutAssetName) const
 {
 	using namespace LivestreamWizard;
 
@@ -561,124 +743,85 @@ bool SLivestreamWizard::BuildSetup(TArray<AActor*>& OutSpawnedActors) const
 	const FString BasePackageName = FString(AssetFolder) + StreamNameTextBox->GetText().ToString();
 	if (!Client || !CanNameUniquely(BasePackageName))
 	{
-		return false;
+		return nullptr;
 	}
-
-	// Every spawn, which the world may refuse, comes before the render target asset, which no undo removes.
-	AActor* CaptureActor = SpawnCaptureActor(Client->GetWorld(), OutSpawnedActors);
-	FOutputActors Outputs;
-	if (!CaptureActor || !SpawnOutputActors(Outputs, OutSpawnedActors))
-	{
-		return false;
-	}
-	FString AssetName;
-	UTextureRenderTarget2D* RenderTarget = CreateRenderTarget(BasePackageName, AssetName);
+	UTextureRenderTarget2D* RenderTarget = CreateRenderTarget(BasePackageName, OutAssetName);
 	if (!RenderTarget)
 	{
-		return false;
+		return nullptr;
 	}
 
-	SetCaptureRenderTarget(CaptureActor, RenderTarget);
-	PlaceAndSelect(CaptureActor, *Client);
-	// The senders take the asset's final name, which the asset tools may have made unique.
-	ConnectOutputs(Outputs, RenderTarget, AssetName);
-	return true;
-}
-
-AActor* SLivestreamWizard::SpawnCaptureActor(UWorld* World, TArray<AActor*>& OutSpawnedActors) const
-{
-	using namespace LivestreamWizard;
-
+	UWorld* World = Client->GetWorld();
+	AActor* Actor = nullptr;
 	if (IsCaptureTypeSelected(CineCamOption))
 	{
-		return SpawnActor<AKyroCineCamCapture>(World, OutSpawnedActors);
-	}
-	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
-	{
-		return SpawnActor<AKyro360CamCapture>(World, OutSpawnedActors);
-	}
-	return SpawnActor<AKyroViewportCapture>(World, OutSpawnedActors);
-}
-
-void SLivestreamWizard::SetCaptureRenderTarget(AActor* CaptureActor, UTextureRenderTarget2D* RenderTarget) const
-{
-	// The actor was spawned for this selection, so the cast holds.
-	if (IsCaptureTypeSelected(CineCamOption))
-	{
-		CastChecked<AKyroCineCamCapture>(CaptureActor)->CaptureComponent->TextureTarget = RenderTarget;
+		Actor = SpawnCaptureActor<AKyroCineCamCapture>(World, RenderTarget);
 	}
 	else if (IsCaptureTypeSelected(ThreeSixtyCamOption))
 	{
-		CastChecked<AKyro360CamCapture>(CaptureActor)->CaptureComponent->TextureTarget = RenderTarget;
+		Actor = SpawnCaptureActor<AKyro360CamCapture>(World, RenderTarget);
 	}
 	else
 	{
-		CastChecked<AKyroViewportCapture>(CaptureActor)->RenderTarget = RenderTarget;
+		Actor = SpawnCaptureActor<AKyroViewportCapture>(World, RenderTarget);
 	}
+	if (!Actor)
+	{
+		return nullptr;
+	}
+	PlaceAndSelect(Actor, *Client);
+	return Actor;
 }
 
-bool SLivestreamWizard::SpawnOutputActors(FOutputActors& OutOutputs, TArray<AActor*>& OutSpawnedActors) const
+UTextureRenderTarget2D* SLivestreamWizard::GetRenderTarget(AActor* CaptureActor) const
 {
 	using namespace LivestreamWizard;
 
-	if (SpoutCheckBox->IsChecked())
+	// Called with the actor CreateCaptureActor has just made for this selection, so the casts hold.
+	if (IsCaptureTypeSelected(CineCamOption))
 	{
-		OutOutputs.SpoutSenderManager = FindOrSpawnSenderManager<AKyroSpoutSenderManager>(OutSpawnedActors);
-		if (!OutOutputs.SpoutSenderManager)
-		{
-			return false;
-		}
+		return GetCaptureRenderTarget<AKyroCineCamCapture>(CaptureActor);
 	}
-	if (NDICheckBox->IsChecked())
+	if (IsCaptureTypeSelected(ThreeSixtyCamOption))
 	{
-		OutOutputs.NDISenderManager = FindOrSpawnSenderManager<AKyroNDISenderManager>(OutSpawnedActors);
-		if (!OutOutputs.NDISenderManager)
-		{
-			return false;
-		}
+		return GetCaptureRenderTarget<AKyro360CamCapture>(CaptureActor);
 	}
-	if (MediaOutputCheckBox->IsChecked())
-	{
-		OutOutputs.MediaOutput = SpawnActor<AKyroMediaOutput>(GetOutputWorld(), OutSpawnedActors);
-		if (!OutOutputs.MediaOutput)
-		{
-			return false;
-		}
-	}
-	if (VirtualWebcamCheckBox->IsChecked())
-	{
-		OutOutputs.VirtualWebcamOutput = SpawnActor<AKyroVirtualWebcamOutput>(GetOutputWorld(), OutSpawnedActors);
-		if (!OutOutputs.VirtualWebcamOutput)
-		{
-			return false;
-		}
-	}
-	return true;
+	return GetCaptureRenderTarget<AKyroViewportCapture>(CaptureActor);
 }
 
-void SLivestreamWizard::ConnectOutputs(const FOutputActors& Outputs, UTextureRenderTarget2D* RenderTarget, const FString& AssetName)
+bool SLivestreamWizard::CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const
 {
-	using namespace LivestreamWizard;
+	AKyroSpoutSenderManager* Manager = FindOrCreateSpoutSenderManager();
+	return LivestreamWizard::AddSenderEntry(Manager, LivestreamWizard::MakeSenderEntry<FKyroSpoutSenderInterface>(RenderTarget, Name));
+}
 
-	if (Outputs.SpoutSenderManager)
-	{
-		AddSenderEntry(Outputs.SpoutSenderManager, MakeSenderEntry<FKyroSpoutSenderInterface>(RenderTarget, AssetName));
-	}
-	if (Outputs.NDISenderManager)
-	{
-		FKyroNDISenderInterface Entry = MakeSenderEntry<FKyroNDISenderInterface>(RenderTarget, AssetName);
-		// The NDI entry's second flag, next to the enabled one.
-		Entry.bActive = true;
-		AddSenderEntry(Outputs.NDISenderManager, Entry);
-	}
-	if (Outputs.MediaOutput)
-	{
-		ConnectOutputActor(Outputs.MediaOutput, RenderTarget);
-	}
-	if (Outputs.VirtualWebcamOutput)
-	{
-		ConnectOutputActor(Outputs.VirtualWebcamOutput, RenderTarget);
-	}
+bool SLivestreamWizard::CreateNDISender(UTextureRenderTarget2D* RenderTarget, FString Name) const
+{
+	AKyroNDISenderManager* Manager = FindOrCreateNDISenderManager();
+	FKyroNDISenderInterface Entry = LivestreamWizard::MakeSenderEntry<FKyroNDISenderInterface>(RenderTarget, Name);
+	// The NDI entry's second flag, next to the enabled one.
+	Entry.bActive = true;
+	return LivestreamWizard::AddSenderEntry(Manager, Entry);
+}
+
+bool SLivestreamWizard::CreateMediaOutput(UTextureRenderTarget2D* RenderTarget) const
+{
+	return LivestreamWizard::CreateOutputActor<AKyroMediaOutput>(RenderTarget);
+}
+
+bool SLivestreamWizard::CreateVirtualCam(UTextureRenderTarget2D* RenderTarget) const
+{
+	return LivestreamWizard::CreateOutputActor<AKyroVirtualWebcamOutput>(RenderTarget);
+}
+
+AKyroSpoutSenderManager* SLivestreamWizard::FindOrCreateSpoutSenderManager() const
+{
+	return LivestreamWizard::FindOrCreateSenderManager<AKyroSpoutSenderManager>();
+}
+
+AKyroNDISenderManager* SLivestreamWizard::FindOrCreateNDISenderManager() const
+{
+	return LivestreamWizard::FindOrCreateSenderManager<AKyroNDISenderManager>();
 }
 
 bool SLivestreamWizard::IsCaptureTypeSelected(const FString& Option) const

@@ -9,16 +9,13 @@
 #include "Widgets/SCompoundWidget.h"
 
 class AActor;
-class AKyroMediaOutput;
 class AKyroNDISenderManager;
 class AKyroSpoutSenderManager;
-class AKyroVirtualWebcamOutput;
 class SCheckBox;
 class SEditableTextBox;
 class STextBlock;
 class SWidget;
 class UTextureRenderTarget2D;
-class UWorld;
 template <typename OptionType>
 class SComboBox;
 
@@ -48,15 +45,6 @@ private:
 		const TCHAR* Caption;
 	};
 
-	/** The actors the ticked outputs go to: sender managers found or spawned, and new output actors. */
-	struct FOutputActors
-	{
-		AKyroSpoutSenderManager* SpoutSenderManager = nullptr;
-		AKyroNDISenderManager* NDISenderManager = nullptr;
-		AKyroMediaOutput* MediaOutput = nullptr;
-		AKyroVirtualWebcamOutput* VirtualWebcamOutput = nullptr;
-	};
-
 	/** The outputs in the order they are shown and always tested. */
 	static const FOutputOption OutputOptions[4];
 
@@ -75,21 +63,26 @@ private:
 
 	/** Checks the inputs and rewrites both warning lines; true when a setup may be created. */
 	bool CanCreateSetup() const;
-	/** Builds the whole setup as one undoable step; a create that fails leaves nothing behind. */
+	/**
+	 * Builds the render target, the capture actor and the ticked outputs as one undo step; false
+	 * when any of them could not be made, and then nothing of the attempt is left.
+	 */
 	bool CreateSetup() const;
 	/**
-	 * Spawns the capture actor and the outputs' actors, then creates the render target and connects
-	 * them. OutSpawnedActors gets every actor spawned, also when a later step fails.
+	 * Creates the render target and the capture actor rendering into it at the active viewport's
+	 * camera, selected alone; OutAssetName gets the target's final name. Null on failure.
 	 */
-	bool BuildSetup(TArray<AActor*>& OutSpawnedActors) const;
-	/** Spawns the actor of the selected capture type at the origin; null if the world refuses it. */
-	AActor* SpawnCaptureActor(UWorld* World, TArray<AActor*>& OutSpawnedActors) const;
-	/** Points the capture actor, spawned for the selected capture type, at the render target. */
-	void SetCaptureRenderTarget(AActor* CaptureActor, UTextureRenderTarget2D* RenderTarget) const;
-	/** Finds or spawns what each ticked output needs; false if a spawn is refused. */
-	bool SpawnOutputActors(FOutputActors& OutOutputs, TArray<AActor*>& OutSpawnedActors) const;
-	/** Adds a sender entry to each manager and shows the render target on each output actor. */
-	static void ConnectOutputs(const FOutputActors& Outputs, UTextureRenderTarget2D* RenderTarget, const FString& AssetName);
+	AActor* CreateCaptureActor(FString& OutAssetName) const;
+	/** The render target that CaptureActor, made for the current selection, renders into. */
+	UTextureRenderTarget2D* GetRenderTarget(AActor* CaptureActor) const;
+	/** Each adds its output for the render target; false when a spawn the output needs is refused. */
+	bool CreateSpoutSender(UTextureRenderTarget2D* RenderTarget, FString Name) const;
+	bool CreateNDISender(UTextureRenderTarget2D* RenderTarget, FString Name) const;
+	bool CreateMediaOutput(UTextureRenderTarget2D* RenderTarget) const;
+	bool CreateVirtualCam(UTextureRenderTarget2D* RenderTarget) const;
+	/** The level's first sender manager of the class, or a new one when it has none; null if that spawn is refused. */
+	AKyroSpoutSenderManager* FindOrCreateSpoutSenderManager() const;
+	AKyroNDISenderManager* FindOrCreateNDISenderManager() const;
 	/** Whether the capture type selected in the combo is Option (ignoring case). */
 	bool IsCaptureTypeSelected(const FString& Option) const;
 

@@ -59,8 +59,20 @@ namespace
 
 		virtual FInMemoryAssetCreatedEvent& OnInMemoryAssetCreated() override { return InMemoryAssetCreatedEvent; }
 
+		virtual void AssetDeleted(UObject* DeletedAsset) override
+		{
+			// The registry lists what is in memory, so only its listeners need telling; callers tell it while the object is still an asset.
+			if (ensure(DeletedAsset) && DeletedAsset->IsAsset())
+			{
+				InMemoryAssetDeletedEvent.Broadcast(DeletedAsset);
+			}
+		}
+
+		virtual FInMemoryAssetDeletedEvent& OnInMemoryAssetDeleted() override { return InMemoryAssetDeletedEvent; }
+
 	private:
 		FInMemoryAssetCreatedEvent InMemoryAssetCreatedEvent;
+		FInMemoryAssetDeletedEvent InMemoryAssetDeletedEvent;
 	};
 
 	TUniquePtr<FAssetRegistryImpl> GRegistry;

@@ -17,4 +17,6 @@ public:
 
 	/** Tells the registry that NewAsset was created in memory. */
 	static void AssetCreated(UObject* NewAsset) { IAssetRegistry::GetChecked().AssetCreated(NewAsset); }
+	/** Tells the registry that DeletedAsset, in memory, was deleted. */
+	static void AssetDeleted(UObject* DeletedAsset) { IAssetRegistry::GetChecked().AssetDeleted(DeletedAsset); }
 };

@@ -36,8 +36,14 @@ public:
 
 	/** Tells the registry that NewAsset was created in memory. */
 	virtual void AssetCreated(UObject* NewAsset) = 0;
+	/** Tells the registry that DeletedAsset, in memory, was deleted. */
+	virtual void AssetDeleted(UObject* DeletedAsset) = 0;
 
 	DECLARE_EVENT_OneParam(IAssetRegistry, FInMemoryAssetCreatedEvent, UObject*);
 	/** Broadcast by AssetCreated. */
 	virtual FInMemoryAssetCreatedEvent& OnInMemoryAssetCreated() = 0;
+
+	DECLARE_EVENT_OneParam(IAssetRegistry, FInMemoryAssetDeletedEvent, UObject*);
+	/** Broadcast by AssetDeleted. */
+	virtual FInMemoryAssetDeletedEvent& OnInMemoryAssetDeleted() = 0;
 };

@@ -25,6 +25,8 @@ enum EObjectFlags
 	RF_DefaultSubObject = 0x00040000,
 	RF_WasLoaded = 0x00080000,
 	RF_DuplicateTransient = 0x00800000,
+	/** The top bit: with it the flags span all 32 bits, so a complement such as ClearFlags makes is a valid value. */
+	RF_AllocatedInSharedPage = 0x80000000,
 };
 
 constexpr EObjectFlags operator|(EObjectFlags A, EObjectFlags B)
