@@ -4,8 +4,10 @@
 #include "EditorDriver.h"
 #include "HeadlessEditorSession.h"
 #include "JsonReport.h"
+#include "LivestreamWizardDriver.h"
 #include "Report.h"
 #include "WidgetDriver.h"
+#include "Widgets/Docking/SDockTab.h"
 
 #include <cstdio>
 
@@ -33,7 +35,7 @@ namespace
 		FHeadlessEditorSession Session;
 		Print(CastellanReport::DescribeRegistrations());
 		Print(TEXT("\nLivestreamWizard tab:\n"));
-		Print(FWidgetDriver::DescribeTree(CastellanEditorDriver::OpenWizard()));
+		Print(FWidgetDriver::DescribeTree(FLivestreamWizardDriver::OpenFromToolbar()->GetContent()));
 		return ExitDone;
 	}
 
@@ -49,26 +51,26 @@ namespace
 		return FString(UTF8_TO_TCHAR(Text.c_str()));
 	}
 
-	FCreateRequest MakeCreateRequest(const FParsedCommand& Parsed)
+	FLivestreamWizardInputs MakeWizardInputs(const FParsedCommand& Parsed)
 	{
-		FCreateRequest Request;
+		FLivestreamWizardInputs Inputs;
 		if (const std::optional<std::string> Capture = Parsed.GetValue(CaptureOption))
 		{
-			Request.Capture = FromUtf8(*Capture);
+			Inputs.Capture = FromUtf8(*Capture);
 		}
 		for (const std::string& Output : Parsed.GetValues(OutputOption))
 		{
-			Request.Outputs.Add(FromUtf8(Output));
+			Inputs.Outputs.Add(FromUtf8(Output));
 		}
-		Request.Name = FromUtf8(Parsed.GetValue(NameOption).value_or(std::string()));
-		return Request;
+		Inputs.Name = FromUtf8(Parsed.GetValue(NameOption).value_or(std::string()));
+		return Inputs;
 	}
 
 	int RunCreate(const FParsedCommand& Parsed)
 	{
-		const FCreateRequest Request = MakeCreateRequest(Parsed);
+		const FLivestreamWizardInputs Inputs = MakeWizardInputs(Parsed);
 		FHeadlessEditorSession Session;
-		const FCreateResult Result = CastellanEditorDriver::CreateLivestream(Request);
+		const FCreateResult Result = CastellanEditorDriver::CreateLivestream(Inputs);
 		if (Parsed.Has(JsonOption))
 		{
 			std::fputs(CastellanJsonReport::FormatCreateResult(Result).c_str(), stdout);
@@ -77,7 +79,7 @@ namespace
 		{
 			Print(CastellanReport::DescribeCreateResult(Result));
 		}
-		if (Result.Outcome != ECreateOutcome::Created)
+		if (Result.Wizard.Outcome != ELivestreamWizardOutcome::Created)
 		{
 			PrintError(CastellanReport::DescribeFailure(Result));
 			return ExitNotDone;

@@ -1,18 +1,9 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "LivestreamWizardDriver.h"
 #include "Logging/LogVerbosity.h"
 #include "Misc/Optional.h"
-
-/** What to fill into the Livestream Wizard before pressing Create. */
-struct FCreateRequest
-{
-	/** The capture type to pick; unset keeps the wizard's own selection. */
-	TOptional<FString> Capture;
-	/** The captions of the outputs to tick. */
-	TArray<FString> Outputs;
-	FString Name;
-};
 
 /** A sender entry of a Spout or NDI sender manager. */
 struct FSenderSnapshot
@@ -69,24 +60,11 @@ struct FEditorMessage
 	ELogVerbosity::Type Verbosity = ELogVerbosity::NoLogging;
 };
 
-enum class ECreateOutcome
-{
-	/** The done page reports the setup built. */
-	Created,
-	/** The wizard stayed on its steps with warning lines. */
-	Refused,
-	/** The done page reports an error. */
-	Failed
-};
-
 /** What pressing Create did, as the wizard and the editor show it. */
 struct FCreateResult
 {
-	ECreateOutcome Outcome = ECreateOutcome::Refused;
-	/** The done page's result line (created or failed). */
-	FString DoneText;
-	/** The warning lines shown under the wizard's steps (refused). */
-	TArray<FString> Warnings;
+	/** What the wizard shows. */
+	FLivestreamWizardResult Wizard;
 	TArray<FEditorMessage> EditorMessages;
 	/** The wizard's widget tree after pressing Create. */
 	FString WizardOutline;

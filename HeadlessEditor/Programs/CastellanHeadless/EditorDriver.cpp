@@ -1,9 +1,7 @@
 #include "EditorDriver.h"
 
-#include "CastellanEditor.h"
 #include "Editor/Transactor.h"
 #include "Engine/TextureRenderTarget2D.h"
-#include "Framework/Docking/TabManager.h"
 #include "GameFramework/Actor.h"
 #include "HeadlessDesktop.h"
 #include "KyroMediaOutput.h"
@@ -11,17 +9,11 @@
 #include "KyroSpoutSenderManager.h"
 #include "KyroVirtualWebcamOutput.h"
 #include "LevelDriver.h"
+#include "LivestreamWizardDriver.h"
 #include "Misc/OutputDevice.h"
 #include "Misc/OutputDeviceRedirector.h"
-#include "Modules/ModuleManager.h"
-#include "Styling/SlateColor.h"
 #include "WidgetDriver.h"
 #include "Widgets/Docking/SDockTab.h"
-#include "Widgets/Input/SButton.h"
-#include "Widgets/Input/SCheckBox.h"
-#include "Widgets/Input/SComboBox.h"
-#include "Widgets/Input/SEditableTextBox.h"
-#include "Widgets/Text/STextBlock.h"
 
 namespace
 {
@@ -49,87 +41,6 @@ namespace
 
 		TArray<FEditorMessage> Lines;
 	};
-
-	TSharedRef<SButton> FindCreateButton(const TSharedRef<SWidget>& Wizard)
-	{
-		return FWidgetDriver::Find<SButton>(Wizard, TEXT("SButton"), FString(TEXT("Create"))).ToSharedRef();
-	}
-
-	void PickCapture(const TSharedRef<SWidget>& Wizard, const FString& Capture)
-	{
-		const TSharedRef<SComboBox<TSharedPtr<FString>>> Combo = FWidgetDriver::Find<SComboBox<TSharedPtr<FString>>>(Wizard, TEXT("SComboBox")).ToSharedRef();
-		const TSharedPtr<FString>* Option = FWidgetDriver::GetComboOptions(Combo).FindByPredicate([&Capture](const TSharedPtr<FString>& Item)
-			{ return Item->Equals(Capture); });
-		checkf(Option, TEXT("The wizard offers no capture type \"%s\""), *Capture);
-		FWidgetDriver::PickComboItem(Combo, *Option);
-	}
-
-	/** Ticks an output as a user told to tick it does: a box already ticked is left alone. */
-	void TickOutput(const TSharedRef<SWidget>& Wizard, const FString& Caption)
-	{
-		const TSharedPtr<SCheckBox> CheckBox = FWidgetDriver::Find<SCheckBox>(Wizard, TEXT("SCheckBox"), Caption);
-		checkf(CheckBox.IsValid(), TEXT("The wizard offers no output \"%s\""), *Caption);
-		if (!CheckBox->IsChecked())
-		{
-			FWidgetDriver::ToggleCheckBox(CheckBox.ToSharedRef());
-		}
-	}
-
-	void FillIn(const TSharedRef<SWidget>& Wizard, const FCreateRequest& Request)
-	{
-		if (Request.Capture.IsSet())
-		{
-			PickCapture(Wizard, Request.Capture.GetValue());
-		}
-		for (const FString& Output : Request.Outputs)
-		{
-			TickOutput(Wizard, Output);
-		}
-		FWidgetDriver::TypeText(FWidgetDriver::Find<SEditableTextBox>(Wizard, TEXT("SEditableTextBox")).ToSharedRef(), FText::FromString(Request.Name));
-	}
-
-	/** The wizard's complaints and errors are the lines it shows in red. */
-	bool IsShownInRed(const STextBlock& Text)
-	{
-		const FSlateColor Color = FWidgetDriver::GetColor(Text);
-		return Color.IsColorSpecified() && Color.GetSpecifiedColor() == FLinearColor::Red;
-	}
-
-	TArray<TSharedRef<STextBlock>> GetShownTexts(const TSharedRef<SWidget>& Wizard)
-	{
-		TArray<TSharedRef<STextBlock>> Shown;
-		for (const TSharedRef<SWidget>& Widget : FWidgetDriver::FindAllWidgets(Wizard, TEXT("STextBlock")))
-		{
-			const TSharedRef<STextBlock> Text = StaticCastSharedRef<STextBlock>(Widget);
-			if (FWidgetDriver::IsShown(Widget) && !Text->GetText().IsEmpty())
-			{
-				Shown.Add(Text);
-			}
-		}
-		return Shown;
-	}
-
-	/** Reads the outcome as a user does: still on the steps with warnings, or a done page in white or red. */
-	void ReadOutcome(const TSharedRef<SWidget>& Wizard, FCreateResult& Result)
-	{
-		const TArray<TSharedRef<STextBlock>> Shown = GetShownTexts(Wizard);
-		if (FWidgetDriver::IsShown(FindCreateButton(Wizard)))
-		{
-			Result.Outcome = ECreateOutcome::Refused;
-			for (const TSharedRef<STextBlock>& Text : Shown)
-			{
-				if (IsShownInRed(*Text) && !Text->GetText().IsEmpty())
-				{
-					Result.Warnings.Add(Text->GetText().ToString());
-				}
-			}
-			return;
-		}
-		// The done page ends the tree: its result line, then its button's label.
-		const STextBlock& ResultLine = *Shown[Shown.Num() - 2];
-		Result.DoneText = ResultLine.GetText().ToString();
-		Result.Outcome = IsShownInRed(ResultLine) ? ECreateOutcome::Failed : ECreateOutcome::Created;
-	}
 
 	TArray<FEditorMessage> GetMessageBoxesSince(int32 FirstIndex)
 	{
@@ -209,27 +120,19 @@ namespace
 	}
 }
 
-TSharedRef<SWidget> CastellanEditorDriver::OpenWizard()
+FCreateResult CastellanEditorDriver::CreateLivestream(const FLivestreamWizardInputs& Inputs)
 {
-	FModuleManager::GetModuleChecked<FCastellanEditorModule>(TEXT("CastellanEditor")).PluginButtonClicked();
-	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(FCastellanEditorModule::LivestreamWizardTabName));
-	check(Tab.IsValid());
-	return Tab->GetContent();
-}
-
-FCreateResult CastellanEditorDriver::CreateLivestream(const FCreateRequest& Request)
-{
-	const TSharedRef<SWidget> Wizard = OpenWizard();
+	const TSharedRef<SWidget> Wizard = FLivestreamWizardDriver::OpenFromToolbar()->GetContent();
 	FCreateResult Result;
 	const int32 FirstMessageBox = UE::Headless::GetShownMessageDialogs().Num();
 	{
 		FLogRecorder Log;
-		FillIn(Wizard, Request);
-		FWidgetDriver::Click(FindCreateButton(Wizard));
+		FLivestreamWizardDriver::FillIn(Wizard, Inputs);
+		FLivestreamWizardDriver::PressCreate(Wizard);
 		Result.EditorMessages = GetMessageBoxesSince(FirstMessageBox);
 		Result.EditorMessages.Append(Log.Lines);
 	}
-	ReadOutcome(Wizard, Result);
+	Result.Wizard = FLivestreamWizardDriver::ReadResult(Wizard);
 	Result.WizardOutline = FWidgetDriver::DescribeTree(Wizard);
 	Result.Level = TakeLevelSnapshot();
 	return Result;

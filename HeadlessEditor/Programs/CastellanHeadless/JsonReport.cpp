@@ -30,13 +30,13 @@ namespace
 		return Path.IsEmpty() ? FJson() : FJson(ToUtf8(Path));
 	}
 
-	const char* ToJson(ECreateOutcome Outcome)
+	const char* ToJson(ELivestreamWizardOutcome Outcome)
 	{
 		switch (Outcome)
 		{
-			case ECreateOutcome::Created:
+			case ELivestreamWizardOutcome::Created:
 				return "created";
-			case ECreateOutcome::Refused:
+			case ELivestreamWizardOutcome::Refused:
 				return "refused";
 			default:
 				return "failed";
@@ -94,9 +94,9 @@ namespace
 std::string CastellanJsonReport::FormatCreateResult(const FCreateResult& Result)
 {
 	FJson Json;
-	Json["outcome"] = ToJson(Result.Outcome);
-	Json["done_text"] = Result.Outcome == ECreateOutcome::Refused ? FJson() : FJson(ToUtf8(Result.DoneText));
-	Json["warnings"] = ToJson(Result.Warnings);
+	Json["outcome"] = ToJson(Result.Wizard.Outcome);
+	Json["done_text"] = Result.Wizard.Outcome == ELivestreamWizardOutcome::Refused ? FJson() : FJson(ToUtf8(Result.Wizard.DoneText));
+	Json["warnings"] = ToJson(Result.Wizard.Warnings);
 	FJson& Messages = Json["editor_messages"] = FJson::array();
 	for (const FEditorMessage& Message : Result.EditorMessages)
 	{

@@ -191,17 +191,17 @@ FString CastellanReport::DescribeCreateResult(const FCreateResult& Result)
 FString CastellanReport::DescribeFailure(const FCreateResult& Result)
 {
 	FString Out;
-	if (Result.Outcome == ECreateOutcome::Refused)
+	if (Result.Wizard.Outcome == ELivestreamWizardOutcome::Refused)
 	{
 		AppendLine(Out, 0, TEXT("the wizard refused to create the livestream; it shows:"));
-		for (const FString& Warning : Result.Warnings)
+		for (const FString& Warning : Result.Wizard.Warnings)
 		{
 			AppendLine(Out, 1, Shown(Warning));
 		}
 	}
-	else if (Result.Outcome == ECreateOutcome::Failed)
+	else if (Result.Wizard.Outcome == ELivestreamWizardOutcome::Failed)
 	{
-		AppendLine(Out, 0, FString::Printf(TEXT("the wizard failed to create the livestream; it shows \"%s\""), *Shown(Result.DoneText)));
+		AppendLine(Out, 0, FString::Printf(TEXT("the wizard failed to create the livestream; it shows \"%s\""), *Shown(Result.Wizard.DoneText)));
 		for (const FEditorMessage& Message : Result.EditorMessages)
 		{
 			AppendLine(Out, 1, DescribeEditorMessage(Message));
