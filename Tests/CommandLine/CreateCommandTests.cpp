@@ -47,7 +47,7 @@ TEST(CreateCommand, ANameWithNoAssetPartFailsWithTheEnginesReason)
 	ExpectFailure(RunCastellanHeadless({"create", "--output", "Spout", "--name", "///"}), "ERROR: Failed to create Livestream '///'!", Reason);
 }
 
-TEST(CreateCommand, TheLongestNameIsCreatedAndOneLongerFailsWithoutAReasonFromTheEditor)
+TEST(CreateCommand, TheLongestNameIsCreatedAndOneLongerFailsAsTooLongForTheEngine)
 {
 	const std::string Longest(LongestName, 'a');
 	const FProgramRun Accepted = RunCastellanHeadless({"create", "--output", "NDI", "--name", Longest});
@@ -55,10 +55,15 @@ TEST(CreateCommand, TheLongestNameIsCreatedAndOneLongerFailsWithoutAReasonFromTh
 	EXPECT_EQ(Accepted.Err, "");
 	EXPECT_TRUE(Contains(Accepted.Out, "  /Game/LivestreamWizard/" + Longest + "." + Longest + " (TextureRenderTarget2D)"));
 
-	// The wizard refuses such a name before asking the engine for anything, and says nothing.
+	// The wizard refuses such a name before asking the engine for anything and says nothing; the program
+	// names the engine's limit the name would pass.
+	const std::string Reason = "the name is too long for the engine: its package name (/Game/LivestreamWizard/ and the name) is 1014 characters long, "
+							   "and with the 10 digits the asset tools may append to make it unique it reaches 1024, the engine's limit for a name (NAME_SIZE)";
 	const std::string TooLong = Longest + "a";
-	ExpectFailure(RunCastellanHeadless({"create", "--output", "NDI", "--name", TooLong}), "ERROR: Failed to create Livestream '" + TooLong + "'!",
-		"the editor gave no reason: it showed no message box and logged no warning or error");
+	ExpectFailure(RunCastellanHeadless({"create", "--output", "NDI", "--name", TooLong}), "ERROR: Failed to create Livestream '" + TooLong + "'!", Reason);
+	// Characters the asset tools replace count as one each.
+	const std::string Replaced(LongestName + 1, '?');
+	ExpectFailure(RunCastellanHeadless({"create", "--output", "NDI", "--name", Replaced}), "ERROR: Failed to create Livestream '" + Replaced + "'!", Reason);
 }
 
 TEST(CreateCommand, AnOutputGivenTwiceIsTickedOnce)

@@ -63,6 +63,8 @@ struct FEditorMessage
 /** What pressing Create did, as the wizard and the editor show it. */
 struct FCreateResult
 {
+	/** The name typed into the wizard. */
+	FString Name;
 	/** What the wizard shows. */
 	FLivestreamWizardResult Wizard;
 	TArray<FEditorMessage> EditorMessages;

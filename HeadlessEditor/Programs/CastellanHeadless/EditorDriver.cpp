@@ -124,6 +124,7 @@ FCreateResult CastellanEditorDriver::CreateLivestream(const FLivestreamWizardInp
 {
 	const TSharedRef<SWidget> Wizard = FLivestreamWizardDriver::OpenFromToolbar()->GetContent();
 	FCreateResult Result;
+	Result.Name = Inputs.Name.Get(FString());
 	const int32 FirstMessageBox = UE::Headless::GetShownMessageDialogs().Num();
 	{
 		FLogRecorder Log;

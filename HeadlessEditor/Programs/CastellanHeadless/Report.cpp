@@ -14,6 +14,7 @@
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "ToolMenus.h"
+#include "UObject/NameTypes.h"
 #include "WidgetDriver.h"
 
 namespace
@@ -172,6 +173,24 @@ namespace
 		return Out;
 	}
 
+	/** The folder the wizard asks the asset tools to name its package in. */
+	const TCHAR* const WizardPackageFolder = TEXT("/Game/LivestreamWizard/");
+	/** The digits the asset tools may append to a package name to make it unique. */
+	constexpr int32 MaxNumberingDigits = 10;
+
+	/** Why the engine could not hold the name's package once numbered, in plain words; unset when it could. */
+	TOptional<FString> DiagnoseNameLength(const FString& Name)
+	{
+		// Invalid characters become '_' one for one, so the name keeps its length in the package name.
+		const int32 PackageNameLength = FString(WizardPackageFolder).Len() + Name.Len();
+		if (PackageNameLength + MaxNumberingDigits < NAME_SIZE)
+		{
+			return TOptional<FString>();
+		}
+		return FString::Printf(TEXT("the name is too long for the engine: its package name (%s and the name) is %d characters long, and with the %d digits the asset tools may append to make it unique it reaches %d, the engine's limit for a name (NAME_SIZE)"),
+			WizardPackageFolder, PackageNameLength, MaxNumberingDigits, static_cast<int32>(NAME_SIZE));
+	}
+
 	FString DescribeEditorMessage(const FEditorMessage& Message)
 	{
 		if (Message.Kind == FEditorMessage::EKind::MessageBox)
@@ -208,7 +227,8 @@ FString CastellanReport::DescribeFailure(const FCreateResult& Result)
 		}
 		if (Result.EditorMessages.IsEmpty())
 		{
-			AppendLine(Out, 1, TEXT("the editor gave no reason: it showed no message box and logged no warning or error"));
+			const TOptional<FString> Diagnosis = DiagnoseNameLength(Result.Name);
+			AppendLine(Out, 1, Diagnosis.IsSet() ? Diagnosis.GetValue() : FString(TEXT("the editor gave no reason: it showed no message box and logged no warning or error")));
 		}
 	}
 	return Out;
