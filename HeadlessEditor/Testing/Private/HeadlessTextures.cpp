@@ -5,8 +5,9 @@
 
 #include <cairo.h>
 
-FHeadlessTexture::FHeadlessTexture(cairo_surface_t* InSurface)
+FHeadlessTexture::FHeadlessTexture(cairo_surface_t* InSurface, const FString& InPath)
 	: Surface(InSurface)
+	, Path(InPath)
 {
 }
 
@@ -41,13 +42,14 @@ FSlateShaderResourceProxy* FHeadlessTextureManager::GetShaderResource(const FSla
 	{
 		return *Existing;
 	}
-	cairo_surface_t* Surface = cairo_image_surface_create_from_png(TCHAR_TO_UTF8(*GetResourcePath(Brush)));
+	const FString Path = GetResourcePath(Brush);
+	cairo_surface_t* Surface = cairo_image_surface_create_from_png(TCHAR_TO_UTF8(*Path));
 	if (cairo_surface_status(Surface) != CAIRO_STATUS_SUCCESS)
 	{
 		cairo_surface_destroy(Surface);
 		return nullptr;
 	}
-	Textures.Add(MakeUnique<FHeadlessTexture>(Surface));
+	Textures.Add(MakeUnique<FHeadlessTexture>(Surface, Path));
 	FHeadlessTexture* Texture = Textures.Last().get();
 	FSlateShaderResourceProxy* Proxy = new FSlateShaderResourceProxy();
 	Proxy->Resource = Texture;

@@ -11,7 +11,7 @@ typedef struct _cairo_surface cairo_surface_t;
 class FHeadlessTexture : public FSlateShaderResource
 {
 public:
-	explicit FHeadlessTexture(cairo_surface_t* InSurface);
+	FHeadlessTexture(cairo_surface_t* InSurface, const FString& InPath);
 	virtual ~FHeadlessTexture();
 
 	virtual uint32 GetWidth() const override;
@@ -19,9 +19,12 @@ public:
 	virtual ESlateShaderResource::Type GetType() const override { return ESlateShaderResource::NativeTexture; }
 
 	cairo_surface_t* GetSurface() const { return Surface; }
+	/** The file the image was read from. */
+	const FString& GetPath() const { return Path; }
 
 private:
 	cairo_surface_t* Surface;
+	FString Path;
 };
 
 /** Loads the PNG files brushes name, once each, and forgets them all when textures are reloaded. */

@@ -1,0 +1,20 @@
+#include "Views/EditorViews.h"
+
+#include "Views/WizardViews.h"
+
+const TArray<FEditorView>& FEditorViews::GetAll()
+{
+	static const TArray<FEditorView> Views = []()
+	{
+		TArray<FEditorView> All;
+		All.Append(MakeLivestreamWizardViews());
+		return All;
+	}();
+	return Views;
+}
+
+const FEditorView* FEditorViews::Find(const FString& Name)
+{
+	return GetAll().FindByPredicate([&Name](const FEditorView& View)
+		{ return View.Name.Equals(Name, ESearchCase::CaseSensitive); });
+}
