@@ -68,10 +68,13 @@ TEST(CommandLine, HelpPrintsTheUsageOnStandardOutput)
 	EXPECT_EQ(Help.ExitCode, 0);
 	EXPECT_EQ(Help.Err, "");
 	EXPECT_TRUE(BeginsWith(Help.Out, "Usage: castellan-headless COMMAND [OPTIONS]\n"));
-	EXPECT_TRUE(Contains(Help.Out, "\nCommands:\n  wizard  open the Livestream Wizard"));
-	EXPECT_TRUE(Contains(Help.Out, "\n  menu    print the toolbar button"));
-	EXPECT_TRUE(Contains(Help.Out, "\n  create  fill in the wizard"));
-	EXPECT_TRUE(Contains(Help.Out, "\n  help    print this help\n"));
+	EXPECT_TRUE(Contains(Help.Out, "\nCommands:\n  wizard   open the Livestream Wizard"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  menu     print the toolbar button"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  create   fill in the wizard"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  list     list the views"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  show     print a view's outline"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  gallery  draw every view"));
+	EXPECT_TRUE(Contains(Help.Out, "\n  help     print this help\n"));
 	EXPECT_TRUE(Contains(Help.Out, "castellan-headless COMMAND --help"));
 	for (const char* Same : {"-h", "help"})
 	{
@@ -121,8 +124,8 @@ TEST(CommandLine, NoCommandPrintsTheUsageOnStandardErrorAndExits2)
 
 TEST(CommandLine, AnUnknownCommandIsNamedWithTheCommands)
 {
-	ExpectBadCommandLine({"crate"}, "unknown command \"crate\"; commands: wizard, menu, create, help");
-	ExpectBadCommandLine({"--verbose"}, "unknown option \"--verbose\"; give a command (wizard, menu, create, help) or --help");
+	ExpectBadCommandLine({"crate"}, "unknown command \"crate\"; commands: wizard, menu, create, list, show, gallery, help");
+	ExpectBadCommandLine({"--verbose"}, "unknown option \"--verbose\"; give a command (wizard, menu, create, list, show, gallery, help) or --help");
 }
 
 TEST(CommandLine, AnUnknownOptionIsNamedWithTheCommandsOptions)

@@ -30,8 +30,28 @@ namespace CastellanCommandLine
 		std::vector<std::string> AcceptedValues;
 		/** Whether the option may be given more than once. */
 		bool bRepeatable = false;
+		/** The values used when the option is not given, for the usage text. */
+		std::vector<std::string> Defaults;
 
 		bool IsFlag() const { return ValueName.empty(); }
+	};
+
+	/** A word a command accepts as its operand, with options of its own (e.g. a view to show). */
+	struct FChoiceSpec
+	{
+		std::string Name;
+		/** One line in the command's list of choices. */
+		std::string Summary;
+		std::vector<FOptionSpec> Options;
+	};
+
+	/** The word a command takes before its options: a view to show, a folder to write into. */
+	struct FOperandSpec
+	{
+		/** How the usage names it, e.g. "VIEW". */
+		std::string ValueName;
+		/** The words it takes, each with its own options; empty when it takes any word. */
+		std::vector<FChoiceSpec> Choices;
 	};
 
 	struct FParsedCommand;
@@ -46,6 +66,8 @@ namespace CastellanCommandLine
 		std::vector<FOptionSpec> Options;
 		/** Runs the command; returns the exit status. */
 		int (*Run)(const FParsedCommand& Parsed);
+		/** The word the command takes first, if it takes one. */
+		std::optional<FOperandSpec> Operand;
 	};
 
 	/** A command line that parsed: the command and its options' values, or a request for help. */
@@ -53,6 +75,9 @@ namespace CastellanCommandLine
 	{
 		/** Null when the program's own help was asked for. */
 		const FCommandSpec* Command = nullptr;
+		/** The command's operand, and the choice it names when the command offers choices. */
+		std::string Operand;
+		const FChoiceSpec* Choice = nullptr;
 		bool bHelp = false;
 		/** The values given for each option, in order; a flag has one empty value. */
 		std::map<std::string, std::vector<std::string>> Values;
@@ -74,8 +99,12 @@ namespace CastellanCommandLine
 
 	/** The program's usage: its commands and how to get a command's options. */
 	std::string FormatUsage(const std::vector<FCommandSpec>& Commands);
-	/** A command's usage: what it does and its options with their accepted values. */
+	/** A command's usage: what it does, its operand's choices and its options with their accepted values. */
 	std::string FormatCommandUsage(const FCommandSpec& Command);
+	/** The usage of a command with one of its operand's choices: the choice's options and the command's. */
+	std::string FormatChoiceUsage(const FCommandSpec& Command, const FChoiceSpec& Choice);
+	/** The usage text a parsed request for help asks for: the program's, a command's or a choice's. */
+	std::string FormatHelp(const std::vector<FCommandSpec>& Commands, const FParsedCommand& Parsed);
 
 	/** A value as messages show it: in double quotes, control characters escaped. */
 	std::string Quote(const std::string& Value);

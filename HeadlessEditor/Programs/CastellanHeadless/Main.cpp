@@ -28,7 +28,7 @@ int main(int ArgumentCount, char** Arguments)
 	const FParsedCommand& Parsed = *Result.Parsed;
 	if (Parsed.bHelp)
 	{
-		std::fputs((Parsed.Command ? FormatCommandUsage(*Parsed.Command) : FormatUsage(Commands)).c_str(), stdout);
+		std::fputs(FormatHelp(Commands, Parsed).c_str(), stdout);
 		return ExitDone;
 	}
 	return Parsed.Command->Run(Parsed);

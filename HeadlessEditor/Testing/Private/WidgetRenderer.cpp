@@ -306,6 +306,18 @@ namespace
 		bool operator==(const FElementPlace& Other) const { return Type == Other.Type && Layer == Other.Layer && Position == Other.Position && Size == Other.Size; }
 	};
 
+	/** The pixels of a 32-bit Cairo surface. */
+	FRenderedImage CopyPicture(cairo_surface_t* Surface)
+	{
+		cairo_surface_flush(Surface);
+		FRenderedImage Image;
+		Image.Width = cairo_image_surface_get_width(Surface);
+		Image.Height = cairo_image_surface_get_height(Surface);
+		Image.Stride = cairo_image_surface_get_stride(Surface);
+		Image.Data = TArray<uint8>(cairo_image_surface_get_data(Surface), Image.Stride * Image.Height);
+		return Image;
+	}
+
 	TArray<FElementPlace> GetElementPlaces(const FSlateWindowElementList& Elements)
 	{
 		TArray<FElementPlace> Places;
@@ -335,6 +347,27 @@ bool FRenderedImage::SavePng(const FString& Path) const
 	const cairo_status_t Status = cairo_surface_write_to_png(Surface, TCHAR_TO_UTF8(*Path));
 	cairo_surface_destroy(Surface);
 	return Status == CAIRO_STATUS_SUCCESS;
+}
+
+TOptional<FRenderedImage> FRenderedImage::LoadPng(const FString& Path)
+{
+	cairo_surface_t* Surface = cairo_image_surface_create_from_png(TCHAR_TO_UTF8(*Path));
+	if (cairo_surface_status(Surface) != CAIRO_STATUS_SUCCESS)
+	{
+		cairo_surface_destroy(Surface);
+		return TOptional<FRenderedImage>();
+	}
+	// Cairo reads every PNG into its own 32-bit format, so pictures compare pixel for pixel with rendered ones.
+	cairo_surface_t* Converted = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, cairo_image_surface_get_width(Surface), cairo_image_surface_get_height(Surface));
+	cairo_t* Context = cairo_create(Converted);
+	cairo_set_source_surface(Context, Surface, 0.0, 0.0);
+	cairo_set_operator(Context, CAIRO_OPERATOR_SOURCE);
+	cairo_paint(Context);
+	cairo_destroy(Context);
+	cairo_surface_destroy(Surface);
+	FRenderedImage Image = CopyPicture(Converted);
+	cairo_surface_destroy(Converted);
+	return Image;
 }
 
 void FWidgetRenderer::PaintWidget(const TSharedRef<SWidget>& Widget, const FVector2D& Size, FSlateWindowElementList& OutElements)
@@ -382,14 +415,8 @@ FRenderedImage FWidgetRenderer::Rasterize(const FSlateWindowElementList& Element
 		cairo_restore(Context);
 	}
 
-	cairo_surface_flush(Surface);
-	FRenderedImage Image;
-	Image.Width = Width;
-	Image.Height = Height;
-	Image.Stride = cairo_image_surface_get_stride(Surface);
-	const uint8* Pixels = cairo_image_surface_get_data(Surface);
-	Image.Data = TArray<uint8>(Pixels, Image.Stride * Height);
 	cairo_destroy(Context);
+	FRenderedImage Image = CopyPicture(Surface);
 	cairo_surface_destroy(Surface);
 	return Image;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Optional.h"
 
 class FSlateWindowElementList;
 class SWidget;
@@ -19,6 +20,9 @@ struct HEADLESSTESTING_API FRenderedImage
 
 	/** Writes the picture as a PNG file. @return whether it was written */
 	bool SavePng(const FString& Path) const;
+
+	/** Reads a PNG file into a picture; unset when the file cannot be read as a PNG. */
+	static TOptional<FRenderedImage> LoadPng(const FString& Path);
 };
 
 /**
