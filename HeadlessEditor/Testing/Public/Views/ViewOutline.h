@@ -9,7 +9,7 @@ class SWidget;
  * The outline of a widget tree as a user sees it in a window of a given size, one line per thing a
  * user reads or operates, indented under the widgets that hold them:
  *
- *   SCheckBox "Spout" checked at 16,266 57x20
+ *   SCheckBox "Spout" checked at 16,291 528x18
  *
  * - Text blocks, editable texts, buttons, check boxes, combo boxes and scroll bars show as one line
  *   each, with the text they show (escaped as FPrintableText does) and a check box's state; their
