@@ -35,7 +35,7 @@ namespace
 	/**
 	 * One category of custom rows with known widths: values narrower than, wider than and within the
 	 * rows' 150 to 220 range, a row whose visibility a test switches, a closed group of two rows, and
-	 * an advanced row. The default categories are hidden.
+	 * an advanced row; then a category of one advanced row. The default categories are hidden.
 	 */
 	class FLayoutCustomisation : public IDetailCustomization
 	{
@@ -63,6 +63,7 @@ namespace
 			Group.AddWidgetRow().NameContent()[Label(TEXT("Inside"))].ValueContent()[Label(TEXT("Inside value"))];
 			Group.AddWidgetRow().NameContent()[Label(TEXT("Inside too"))];
 			Category.AddCustomRow(FText::FromString(TEXT("Expert")), true).NameContent()[Label(TEXT("Expert"))];
+			DetailBuilder.EditCategory(TEXT("Experts only")).AddCustomRow(FText::FromString(TEXT("Only expert")), true).NameContent()[Label(TEXT("Only expert"))];
 		}
 
 	private:
@@ -239,10 +240,11 @@ TEST_F(DetailsViewLayout, AClosedCategoryShowsItsHeaderOnly)
 	const TMap<FString, FSlateRect> Texts = Paint(Driver, 480.0f);
 	TArray<FString> Shown;
 	Texts.GetKeys(Shown);
-	EXPECT_EQ(Shown, TArray<FString>({TEXT("Layout")}));
-	// The header's 27 units, and the one unit the scroll box keeps below its content.
+	Shown.Sort();
+	EXPECT_EQ(Shown, TArray<FString>({TEXT("Experts only"), TEXT("Layout")}));
+	// The two headers' 27 units each, and the one unit the scroll box keeps below its content.
 	Driver.GetDetailsView()->SlatePrepass(1.0f);
-	EXPECT_FLOAT_EQ(Driver.GetDetailsView()->GetDesiredSize().Y, 28.0f);
+	EXPECT_FLOAT_EQ(Driver.GetDetailsView()->GetDesiredSize().Y, 55.0f);
 }
 
 TEST_F(DetailsViewLayout, AdvancedRowsShowBelowTheAdvancedExpanderWhenItIsOpened)
@@ -258,4 +260,22 @@ TEST_F(DetailsViewLayout, AdvancedRowsShowBelowTheAdvancedExpanderWhenItIsOpened
 	ASSERT_TRUE(Texts.Contains(TEXT("Expert")));
 	EXPECT_FLOAT_EQ(Texts.FindChecked(TEXT("Expert")).Top - Texts.FindChecked(TEXT("Advanced")).Top, 27.0f);
 	EXPECT_FLOAT_EQ(Texts.FindChecked(TEXT("Expert")).Left, Texts.FindChecked(TEXT("Narrow")).Left);
+}
+
+TEST_F(DetailsViewLayout, ACategoryOfAdvancedRowsOnlyStartsClosedAndShowsThemAllOnceOpened)
+{
+	FDetailsViewDriver Driver({Capture});
+	TMap<FString, FSlateRect> Texts = Paint(Driver, 480.0f);
+	ASSERT_TRUE(Texts.Contains(TEXT("Experts only")));
+	EXPECT_FALSE(Texts.Contains(TEXT("Only expert")));
+
+	EXPECT_TRUE(FWidgetDriver::Click(FindArrow(Driver, TEXT("Experts only"))));
+	Texts = Paint(Driver, 480.0f);
+	ASSERT_TRUE(Texts.Contains(TEXT("Only expert")));
+	// Below the header and its "Advanced" expander, which cannot hide them.
+	EXPECT_FLOAT_EQ(Texts.FindChecked(TEXT("Only expert")).Top - Texts.FindChecked(TEXT("Experts only")).Top, 54.0f);
+	const TArray<TSharedRef<SWidget>> Expanders = FWidgetDriver::FindAllWidgets(Driver.GetDetailsView(), TEXT("SAdvancedDropdownRow"));
+	ASSERT_EQ(Expanders.Num(), 2);
+	EXPECT_FALSE(FWidgetDriver::Click(StaticCastSharedRef<SButton>(FWidgetDriver::FindWidget(Expanders[1], TEXT("SButton")).ToSharedRef())));
+	EXPECT_TRUE(Paint(Driver, 480.0f).Contains(TEXT("Only expert")));
 }

@@ -7,6 +7,7 @@
 #include "Widgets/Layout/SScrollBar.h"
 #include "Widgets/Layout/SScrollBox.h"
 #include "Widgets/SOverlay.h"
+#include "Widgets/Views/SListView.h"
 
 SDetailsView::~SDetailsView()
 {
@@ -31,7 +32,7 @@ void SDetailsView::Construct(const FArguments& InArgs, const FDetailsViewArgs& I
 	ExternalScrollbar->SetUserVisibility(TAttribute<EVisibility>(this, &SDetailsView::GetScrollBarVisibility));
 
 	ChildSlot
-		[SNew(SOverlay) + SOverlay::Slot()[SNew(SScrollBox).ExternalScrollbar(ExternalScrollbar) + SScrollBox::Slot()[SAssignNew(DetailTree, SListView<TSharedRef<FDetailTreeNode>>).ListItemsSource(&ShownTreeNodes).OnGenerateRow(this, &SDetailsView::OnGenerateRowForDetailTree).SelectionMode(ESelectionMode::None)]] + SOverlay::Slot().HAlign(HAlign_Right)[SNew(SBox).WidthOverride(16.0f)[ExternalScrollbar.ToSharedRef()]]];
+		[SNew(SOverlay) + SOverlay::Slot()[SNew(SScrollBox).ExternalScrollbar(ExternalScrollbar) + SScrollBox::Slot()[SNew(SListView<TSharedRef<FDetailTreeNode>>).ListItemsSource(&ShownTreeNodes).OnGenerateRow(this, &SDetailsView::OnGenerateRowForDetailTree).SelectionMode(ESelectionMode::None)]] + SOverlay::Slot().HAlign(HAlign_Right)[SNew(SBox).WidthOverride(16.0f)[ExternalScrollbar.ToSharedRef()]]];
 }
 
 const TArray<TWeakObjectPtr<UObject>>& SDetailsView::GetSelectedObjects() const

@@ -4,7 +4,7 @@
 #include "DetailColumnSizeData.h"
 #include "DetailTreeNode.h"
 #include "IDetailsView.h"
-#include "Widgets/Views/SListView.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
 
 class ITableRow;
 class SScrollBar;
@@ -64,6 +64,5 @@ private:
 	TArray<TSharedRef<FDetailTreeNode>> RootTreeNodes;
 	/** The entries whose parents are open, in display order: one row each. */
 	TArray<TSharedRef<FDetailTreeNode>> ShownTreeNodes;
-	TSharedPtr<SListView<TSharedRef<FDetailTreeNode>>> DetailTree;
 	TSharedPtr<SScrollBar> ExternalScrollbar;
 };
