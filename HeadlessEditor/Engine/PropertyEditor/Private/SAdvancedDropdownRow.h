@@ -3,7 +3,6 @@
 #include "CoreMinimal.h"
 #include "SDetailTableRowBase.h"
 
-class SButton;
 struct FSlateBrush;
 
 /** The "Advanced" row below a category's simple rows: its arrow shows or hides the advanced rows after it. */
@@ -23,6 +22,4 @@ private:
 	FReply OnExpanderClicked();
 	bool IsButtonEnabled() const;
 	FSlateColor GetRowBackgroundColor() const;
-
-	TSharedPtr<SButton> ExpanderButton;
 };

@@ -14,7 +14,7 @@ void SDetailExpanderArrow::Construct(const FArguments& InArgs, TSharedRef<SDetai
 		[SNew(SConstrainedBox)
 				.MinWidth(12.0f)
 				.Visibility(this, &SDetailExpanderArrow::GetExpanderVisibility)
-					[SAssignNew(ExpanderArrow, SButton)
+					[SNew(SButton)
 							.ButtonStyle(&FAppStyle::Get().GetWidgetStyle<FButtonStyle>("NoBorder"))
 							.VAlign(VAlign_Center)
 							.HAlign(HAlign_Center)

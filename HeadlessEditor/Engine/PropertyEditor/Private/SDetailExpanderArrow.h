@@ -5,7 +5,6 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
-class SButton;
 class SDetailTableRowBase;
 struct FSlateBrush;
 
@@ -26,5 +25,4 @@ private:
 	FReply OnExpanderClicked();
 
 	TWeakPtr<SDetailTableRowBase> Row;
-	TSharedPtr<SButton> ExpanderArrow;
 };
