@@ -1,5 +1,7 @@
 #include "DetailsViewDriver.h"
 
+#include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
 #include "WidgetDriver.h"
 
 namespace
@@ -14,15 +16,50 @@ namespace
 	}
 }
 
-FDetailsViewDriver::FDetailsViewDriver()
-	: View(MakeShared<FHeadlessDetailsView>())
+FDetailsViewDriver::FDetailsViewDriver(const FDetailsViewArgs& Args)
+	: DetailsView(FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor")).CreateDetailView(Args))
 {
 }
 
-FDetailsViewDriver::FDetailsViewDriver(const TArray<UObject*>& Objects)
-	: FDetailsViewDriver()
+FDetailsViewDriver::FDetailsViewDriver(const TArray<UObject*>& Objects, const FDetailsViewArgs& Args)
+	: FDetailsViewDriver(Args)
 {
 	SetObjects(Objects);
+}
+
+void FDetailsViewDriver::SetCategoryExpanded(FName Category, bool bExpanded) const
+{
+	const TSharedPtr<FHeadlessDetailCategory> Found = FindCategory(Category);
+	checkf(Found.IsValid(), TEXT("No category %s"), *Category.ToString());
+	GetView().SetExpanded(*Found, bExpanded);
+}
+
+void FDetailsViewDriver::SetAdvancedShown(FName Category, bool bShown) const
+{
+	const TSharedPtr<FHeadlessDetailCategory> Found = FindCategory(Category);
+	checkf(Found.IsValid(), TEXT("No category %s"), *Category.ToString());
+	GetView().SetAdvancedShown(*Found, bShown);
+}
+
+void FDetailsViewDriver::SetRowExpanded(FHeadlessDetailRow& Row, bool bExpanded) const
+{
+	GetView().SetExpanded(Row, bExpanded);
+}
+
+void FDetailsViewDriver::ExpandAll() const
+{
+	for (const TSharedRef<FHeadlessDetailCategory>& Category : GetCategories())
+	{
+		GetView().SetExpanded(*Category, true);
+		GetView().SetAdvancedShown(*Category, true);
+	}
+	for (const TSharedRef<FHeadlessDetailRow>& Row : GetAllRows())
+	{
+		if (Row->Children.Num() > 0)
+		{
+			GetView().SetExpanded(*Row, true);
+		}
+	}
 }
 
 TSharedPtr<FHeadlessDetailCategory> FDetailsViewDriver::FindCategory(FName Name) const

@@ -2,28 +2,43 @@
 
 #include "CoreMinimal.h"
 #include "HeadlessDetailsView.h"
+#include "IDetailsView.h"
 
 using UE::Headless::FHeadlessDetailCategory;
 using UE::Headless::FHeadlessDetailRow;
 using UE::Headless::FHeadlessDetailsView;
 
 /**
- * Shows objects in a details view through the registered customisations, as the editor's details
- * panel does when they are selected, and finds the categories, rows and widgets it built.
+ * Shows objects in a details view made by the property editor module, as the editor's details panel
+ * shows them when they are selected, and finds the categories, rows and widgets it built. It opens
+ * what a user would open with a click on an arrow.
  */
 class HEADLESSTESTING_API FDetailsViewDriver
 {
 public:
-	FDetailsViewDriver();
-	explicit FDetailsViewDriver(const TArray<UObject*>& Objects);
+	explicit FDetailsViewDriver(const FDetailsViewArgs& Args = FDetailsViewArgs());
+	explicit FDetailsViewDriver(const TArray<UObject*>& Objects, const FDetailsViewArgs& Args = FDetailsViewArgs());
 
-	void SetObjects(const TArray<UObject*>& Objects) { View->SetObjects(Objects); }
-	void Rebuild() { View->Rebuild(); }
-	FHeadlessDetailsView& GetView() const { return *View; }
+	/** Shows the objects, laying the view out again even when they are the ones shown. */
+	void SetObjects(const TArray<UObject*>& Objects) { DetailsView->SetObjects(Objects, true); }
+	void Rebuild() { DetailsView->ForceRefresh(); }
+	/** The details view widget, to draw or to put in a window. */
+	TSharedRef<IDetailsView> GetDetailsView() const { return DetailsView.ToSharedRef(); }
+	/** The layout the view built and draws. */
+	FHeadlessDetailsView& GetView() const { return UE::Headless::GetDetailsViewModel(*DetailsView); }
 	/** Lets the view go, with its rows and customisation instances, as closing the panel does. */
-	void Close() { View.Reset(); }
+	void Close() { DetailsView.Reset(); }
 
-	const TArray<TSharedRef<FHeadlessDetailCategory>>& GetCategories() const { return View->GetCategories(); }
+	/** Opens or closes a category. */
+	void SetCategoryExpanded(FName Category, bool bExpanded = true) const;
+	/** Shows or hides a category's advanced rows. */
+	void SetAdvancedShown(FName Category, bool bShown = true) const;
+	/** Opens or closes a group or a row with rows under it. */
+	void SetRowExpanded(FHeadlessDetailRow& Row, bool bExpanded = true) const;
+	/** Opens every category, group and row, and shows every advanced section: the whole layout in view. */
+	void ExpandAll() const;
+
+	const TArray<TSharedRef<FHeadlessDetailCategory>>& GetCategories() const { return GetView().GetCategories(); }
 	TSharedPtr<FHeadlessDetailCategory> FindCategory(FName Name) const;
 	/** Every row in display order, depth first (a row, then its children). */
 	TArray<TSharedRef<FHeadlessDetailRow>> GetAllRows() const;
@@ -46,5 +61,5 @@ public:
 	}
 
 private:
-	TSharedPtr<FHeadlessDetailsView> View;
+	TSharedPtr<IDetailsView> DetailsView;
 };

@@ -5,6 +5,7 @@
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
 #include "PropertyHandleImpl.h"
+#include "PropertyValueWidgets.h"
 #include "UObject/Class.h"
 
 namespace
@@ -16,6 +17,13 @@ namespace
 		Row->Name = Name;
 		Row->bAdvanced = bAdvanced;
 		return Row;
+	}
+
+	/** Puts a property's default value widget in the row's value column, with the widths that widget asks for. */
+	void SetDefaultValueContent(FDetailWidgetRow& Row, const TSharedRef<IPropertyHandle>& Handle)
+	{
+		const PropertyValueWidgets::FValueWidget Value = PropertyValueWidgets::Make(Handle);
+		Row.ValueContent().MinDesiredWidth(Value.MinDesiredWidth).MaxDesiredWidth(Value.MaxDesiredWidth)[Value.Widget];
 	}
 
 	/** The category a member is listed under: its Category metadata's first level, or its owner's name. */
@@ -86,9 +94,9 @@ void FDetailPropertyRowImpl::GetDefaultWidgets(TSharedPtr<SWidget>& OutNameWidge
 		return;
 	}
 	OutNameWidget = Row->PropertyHandle->CreatePropertyNameWidget(Row->DisplayName);
-	OutValueWidget = FHeadlessDetailsView::MakeDefaultValueWidget(Row->PropertyHandle.ToSharedRef());
 	OutRow.NameContent()[OutNameWidget.ToSharedRef()];
-	OutRow.ValueContent()[OutValueWidget.ToSharedRef()];
+	SetDefaultValueContent(OutRow, Row->PropertyHandle.ToSharedRef());
+	OutValueWidget = OutRow.ValueContent().Widget;
 }
 
 FDetailWidgetRow& FDetailPropertyRowImpl::CustomWidget(bool bShowChildren)
@@ -109,7 +117,7 @@ IDetailPropertyRow& FDetailGroupImpl::HeaderProperty(TSharedRef<IPropertyHandle>
 {
 	Row->PropertyHandle = PropertyHandle;
 	Row->Widgets.NameContent()[PropertyHandle->CreatePropertyNameWidget()];
-	Row->Widgets.ValueContent()[FHeadlessDetailsView::MakeDefaultValueWidget(PropertyHandle)];
+	SetDefaultValueContent(Row->Widgets, PropertyHandle);
 	return Layout.MakePropertyRow(Row);
 }
 
@@ -167,7 +175,7 @@ IDetailPropertyRow& FDetailChildrenBuilderImpl::AddProperty(TSharedRef<IProperty
 
 TSharedRef<SWidget> FDetailChildrenBuilderImpl::GenerateStructValueWidget(TSharedRef<IPropertyHandle> StructPropertyHandle)
 {
-	return FHeadlessDetailsView::MakeDefaultValueWidget(StructPropertyHandle);
+	return PropertyValueWidgets::Make(StructPropertyHandle).Widget;
 }
 
 IDetailCategoryBuilder& FDetailChildrenBuilderImpl::GetParentCategory() const
@@ -180,7 +188,7 @@ FDetailCategoryImpl::FDetailCategoryImpl(FDetailLayoutBuilderImpl& InLayout, FNa
 	, Layout(InLayout)
 {
 	Data->Name = InName;
-	Data->DisplayName = FText::FromName(InName);
+	Data->DisplayName = FText::AsCultureInvariant(FName::NameToDisplayString(InName.ToString(), false));
 	Data->SortOrder = InSortOrder;
 }
 
@@ -272,6 +280,7 @@ void FDetailCategoryImpl::Finish()
 	}
 	Data->Rows = MoveTemp(Simple);
 	Data->Rows.Append(Advanced);
+	Data->bExpanded = !Data->bInitiallyCollapsed && !Data->HasOnlyAdvancedRows();
 }
 
 FDetailLayoutBuilderImpl::FDetailLayoutBuilderImpl(FHeadlessDetailsView& InView, const TSharedRef<FDetailPropertyNode>& InRoot)
@@ -447,7 +456,12 @@ TSharedRef<FHeadlessDetailRow> FDetailLayoutBuilderImpl::GenerateRow(const TShar
 	}
 
 	Row->Widgets.NameContent()[Handle->CreatePropertyNameWidget()];
-	Row->Widgets.ValueContent()[FHeadlessDetailsView::MakeDefaultValueWidget(Handle)];
+	SetDefaultValueContent(Row->Widgets, Handle);
+	// A property shown but not editable is greyed out.
+	if (Node->GetProperty()->HasAnyPropertyFlags(CPF_EditConst))
+	{
+		Row->Widgets.IsEnabled(false);
+	}
 	for (const TSharedRef<FDetailPropertyNode>& Child : Node->GetChildren())
 	{
 		if (!Child->bHiddenByCustomization)

@@ -1,8 +1,10 @@
 #include "PropertyEditorModule.h"
 
+#include "Framework/Application/SlateApplication.h"
 #include "HeadlessPropertyEditor.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyHandle.h"
+#include "SDetailsView.h"
 #include "UObject/Class.h"
 
 IMPLEMENT_MODULE(FPropertyEditorModule, PropertyEditor)
@@ -15,6 +17,8 @@ namespace
 		FCustomPropertyTypeLayoutMap GlobalPropertyTypeToLayoutMap;
 		/** How often customisation modules reported a change since the module started (open panels refresh each time). */
 		int32 CustomizationModuleChangedCount = 0;
+		/** Every details view the module made that still exists. */
+		TArray<TWeakPtr<SDetailsView>> AllDetailViews;
 	};
 
 	FPropertyEditorState& GetState()
@@ -125,6 +129,28 @@ void FPropertyEditorModule::UnregisterCustomPropertyTypeLayout(FName PropertyTyp
 void FPropertyEditorModule::NotifyCustomizationModuleChanged()
 {
 	++GetState().CustomizationModuleChangedCount;
+	if (!FSlateApplication::IsInitialized())
+	{
+		return;
+	}
+	// The customisations changed: every open details view lays itself out again with the ones now registered.
+	for (const TWeakPtr<SDetailsView>& View : GetState().AllDetailViews)
+	{
+		if (const TSharedPtr<SDetailsView> Pinned = View.Pin())
+		{
+			Pinned->ForceRefresh();
+		}
+	}
+}
+
+TSharedRef<IDetailsView> FPropertyEditorModule::CreateDetailView(const FDetailsViewArgs& DetailsViewArgs)
+{
+	TArray<TWeakPtr<SDetailsView>>& Views = GetState().AllDetailViews;
+	Views.RemoveAll([](const TWeakPtr<SDetailsView>& View)
+		{ return !View.IsValid(); });
+	const TSharedRef<SDetailsView> View = SNew(SDetailsView, DetailsViewArgs);
+	Views.Add(View);
+	return View;
 }
 
 FPropertyTypeLayoutCallback FPropertyEditorModule::FindPropertyTypeLayoutCallback(FName PropertyTypeName, const IPropertyHandle& PropertyHandle, const FCustomPropertyTypeLayoutMap& InstancedPropertyTypeLayoutMap)

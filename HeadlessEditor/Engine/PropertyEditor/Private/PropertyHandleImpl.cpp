@@ -3,6 +3,7 @@
 #include "DetailLayoutBuilder.h"
 #include "DetailPropertyNode.h"
 #include "HeadlessDetailsView.h"
+#include "PropertyValueWidgets.h"
 #include "Internationalization/Internationalization.h"
 #include "UObject/Class.h"
 #include "UObject/EnumProperty.h"
@@ -542,5 +543,5 @@ TSharedRef<SWidget> FPropertyHandleImpl::CreatePropertyNameWidget(const FText& N
 
 TSharedRef<SWidget> FPropertyHandleImpl::CreatePropertyValueWidget(bool bDisplayDefaultPropertyButtons) const
 {
-	return FHeadlessDetailsView::MakeDefaultValueWidget(ConstCastSharedRef<IPropertyHandle>(AsShared()));
+	return PropertyValueWidgets::Make(ConstCastSharedRef<IPropertyHandle>(AsShared())).Widget;
 }

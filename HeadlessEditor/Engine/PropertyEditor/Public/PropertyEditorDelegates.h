@@ -6,9 +6,11 @@ class IDetailCustomization;
 class IPropertyHandle;
 class IPropertyTypeCustomization;
 class IPropertyTypeIdentifier;
+struct FPropertyChangedEvent;
 
 DECLARE_DELEGATE_RetVal(TSharedRef<IDetailCustomization>, FOnGetDetailCustomizationInstance);
 DECLARE_DELEGATE_RetVal(TSharedRef<IPropertyTypeCustomization>, FOnGetPropertyTypeCustomizationInstance);
+DECLARE_MULTICAST_DELEGATE_OneParam(FOnFinishedChangingProperties, const FPropertyChangedEvent&);
 
 /** A class layout registration; registrations are applied in the order they were made. */
 struct FDetailLayoutCallback

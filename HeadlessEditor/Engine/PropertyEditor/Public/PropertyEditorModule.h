@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "IDetailCustomization.h"
+#include "IDetailsView.h"
 #include "IPropertyTypeCustomization.h"
 #include "Modules/ModuleInterface.h"
 #include "PropertyEditorDelegates.h"
@@ -45,6 +46,9 @@ public:
 	virtual void RegisterCustomPropertyTypeLayout(FName PropertyTypeName, FOnGetPropertyTypeCustomizationInstance PropertyTypeLayoutDelegate, TSharedPtr<IPropertyTypeIdentifier> Identifier = nullptr);
 	virtual void UnregisterCustomPropertyTypeLayout(FName PropertyTypeName, TSharedPtr<IPropertyTypeIdentifier> InIdentifier = nullptr);
 	virtual void NotifyCustomizationModuleChanged();
+
+	/** Creates a details view; every view the module made is built again when customisation modules change. */
+	virtual TSharedRef<class IDetailsView> CreateDetailView(const struct FDetailsViewArgs& DetailsViewArgs);
 
 	/** The layout for a property of that type: one whose identifier claims the property, else the type's own. */
 	FPropertyTypeLayoutCallback FindPropertyTypeLayoutCallback(FName PropertyTypeName, const IPropertyHandle& PropertyHandle, const FCustomPropertyTypeLayoutMap& InstancedPropertyTypeLayoutMap);

@@ -109,3 +109,40 @@ uint32 GetTypeHash(const FName& Name)
 {
 	return Name.Entry ? static_cast<uint32>(std::hash<std::u16string>()(Name.Entry->Comparison)) : 0u;
 }
+
+FString FName::NameToDisplayString(const FString& InDisplayName, const bool bIsBool)
+{
+	FString Source = InDisplayName;
+	if (bIsBool && Source.Len() > 1 && Source[0] == TEXT('b') && Source[1] >= TEXT('A') && Source[1] <= TEXT('Z'))
+	{
+		Source = Source.RightChop(1);
+	}
+	auto IsUpper = [](TCHAR Ch)
+	{ return Ch >= TEXT('A') && Ch <= TEXT('Z'); };
+	auto IsLower = [](TCHAR Ch)
+	{ return Ch >= TEXT('a') && Ch <= TEXT('z'); };
+	auto IsDigit = [](TCHAR Ch)
+	{ return Ch >= TEXT('0') && Ch <= TEXT('9'); };
+	FString Result;
+	for (int32 Index = 0; Index < Source.Len(); ++Index)
+	{
+		const TCHAR Ch = Source[Index];
+		if (Ch == TEXT('_'))
+		{
+			Result += TEXT(' ');
+			continue;
+		}
+		if (Index > 0)
+		{
+			const TCHAR Prev = Source[Index - 1];
+			const bool bNextLower = Index + 1 < Source.Len() && IsLower(Source[Index + 1]);
+			const bool bBreak = (IsUpper(Ch) && (IsLower(Prev) || IsDigit(Prev) || (IsUpper(Prev) && bNextLower))) || (IsDigit(Ch) && !IsDigit(Prev));
+			if (bBreak && Prev != TEXT('_'))
+			{
+				Result += TEXT(' ');
+			}
+		}
+		Result += Ch;
+	}
+	return Result;
+}

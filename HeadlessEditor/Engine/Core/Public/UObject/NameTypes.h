@@ -46,6 +46,9 @@ public:
 	static bool IsValidXName(const FString& InName, const FString& InInvalidChars, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr);
 	bool IsValidObjectName(FText& OutReason) const { return IsValidXName(ToString(), INVALID_OBJECTNAME_CHARACTERS, &OutReason); }
 
+	/** A name as the editor shows it: "TextureRenderTarget2D" becomes "Texture Render Target 2D", and a bool's "bEnabled" "Enabled". */
+	static FString NameToDisplayString(const FString& InDisplayName, const bool bIsBool);
+
 	FString ToString() const;
 	void ToString(FString& Out) const { Out = ToString(); }
 	FString GetPlainNameString() const { return ToString(); }

@@ -12,44 +12,6 @@
 
 namespace UE::CoreUObject::Private
 {
-	/** "TextureRenderTarget2D" to "Texture Render Target 2D", and "bEnabled" to "Enabled", as the editor shows names. */
-	FString NameToDisplayString(const FString& InName, bool bIsBool)
-	{
-		FString Source = InName;
-		if (bIsBool && Source.Len() > 1 && Source[0] == TEXT('b') && Source[1] >= TEXT('A') && Source[1] <= TEXT('Z'))
-		{
-			Source = Source.RightChop(1);
-		}
-		auto IsUpper = [](TCHAR Ch)
-		{ return Ch >= TEXT('A') && Ch <= TEXT('Z'); };
-		auto IsLower = [](TCHAR Ch)
-		{ return Ch >= TEXT('a') && Ch <= TEXT('z'); };
-		auto IsDigit = [](TCHAR Ch)
-		{ return Ch >= TEXT('0') && Ch <= TEXT('9'); };
-		FString Result;
-		for (int32 Index = 0; Index < Source.Len(); ++Index)
-		{
-			const TCHAR Ch = Source[Index];
-			if (Ch == TEXT('_'))
-			{
-				Result += TEXT(' ');
-				continue;
-			}
-			if (Index > 0)
-			{
-				const TCHAR Prev = Source[Index - 1];
-				const bool bNextLower = Index + 1 < Source.Len() && IsLower(Source[Index + 1]);
-				const bool bBreak = (IsUpper(Ch) && (IsLower(Prev) || IsDigit(Prev) || (IsUpper(Prev) && bNextLower))) || (IsDigit(Ch) && !IsDigit(Prev));
-				if (bBreak && Prev != TEXT('_'))
-				{
-					Result += TEXT(' ');
-				}
-			}
-			Result += Ch;
-		}
-		return Result;
-	}
-
 	UPackage* FindOrCreateScriptPackage(const TCHAR* PackageName)
 	{
 		const FName Name(PackageName);
@@ -189,7 +151,7 @@ const FString& UField::GetMetaData(const FName& Key) const
 FText UField::GetDisplayNameText() const
 {
 	const FString& DisplayName = GetMetaData(TEXT("DisplayName"));
-	return FText::FromString(DisplayName.IsEmpty() ? UE::CoreUObject::Private::NameToDisplayString(GetName(), false) : DisplayName);
+	return FText::FromString(DisplayName.IsEmpty() ? FName::NameToDisplayString(GetName(), false) : DisplayName);
 }
 
 UStruct::~UStruct()

@@ -10,11 +10,6 @@
 #include <cstdlib>
 #include <string>
 
-namespace UE::CoreUObject::Private
-{
-	FString NameToDisplayString(const FString& InName, bool bIsBool);
-}
-
 namespace
 {
 	bool IsDelimiter(TCHAR Ch)
@@ -171,7 +166,7 @@ FProperty::~FProperty() = default;
 FText FProperty::GetDisplayNameText() const
 {
 	const FString& DisplayName = GetMetaData(TEXT("DisplayName"));
-	return FText::FromString(DisplayName.IsEmpty() ? UE::CoreUObject::Private::NameToDisplayString(GetName(), IsA<FBoolProperty>()) : DisplayName);
+	return FText::FromString(DisplayName.IsEmpty() ? FName::NameToDisplayString(GetName(), IsA<FBoolProperty>()) : DisplayName);
 }
 
 const FString& FProperty::GetMetaData(const FName& Key) const

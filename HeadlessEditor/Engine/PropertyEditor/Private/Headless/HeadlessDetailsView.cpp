@@ -2,12 +2,9 @@
 
 #include "DetailLayoutBuilderImpl.h"
 #include "DetailPropertyNode.h"
-#include "Internationalization/Internationalization.h"
 #include "PropertyHandleImpl.h"
+#include "SDetailsView.h"
 #include "UObject/Class.h"
-#include "Widgets/Input/SCheckBox.h"
-#include "Widgets/Input/SEditableTextBox.h"
-#include "Widgets/Text/STextBlock.h"
 
 using namespace UE::Headless;
 
@@ -23,6 +20,40 @@ namespace
 			}
 			CollectHidden(Child, OutNames);
 		}
+	}
+
+	/** A row's place in the layout: its category, then each row above it by name (or by index when it has none). */
+	FString RowSegment(const FHeadlessDetailRow& Row, int32 Index)
+	{
+		return Row.Name.IsNone() ? FString::Printf(TEXT("#%d"), Index) : Row.Name.ToString();
+	}
+
+	template <typename VisitorType>
+	void VisitRows(const TArray<TSharedRef<FHeadlessDetailRow>>& Rows, const FString& ParentPath, VisitorType& Visitor)
+	{
+		for (int32 Index = 0; Index < Rows.Num(); ++Index)
+		{
+			const FString Path = ParentPath + TEXT("/") + RowSegment(*Rows[Index], Index);
+			Visitor(*Rows[Index], Path);
+			VisitRows(Rows[Index]->Children, Path, Visitor);
+		}
+	}
+
+	FString CategoryKey(const FHeadlessDetailCategory& Category)
+	{
+		return TEXT("Category:") + Category.Name.ToString();
+	}
+
+	void Restore(const TMap<FString, bool>& Saved, const FString& Key, bool& bOutState)
+	{
+		if (const bool* bSaved = Saved.Find(Key))
+		{
+			bOutState = *bSaved;
+		}
+	}
+	FString AdvancedKey(const FHeadlessDetailCategory& Category)
+	{
+		return TEXT("Advanced:") + Category.Name.ToString();
 	}
 }
 
@@ -51,6 +82,7 @@ void FHeadlessDetailsView::SetObjects(const TArray<UObject*>& InObjects)
 void FHeadlessDetailsView::Rebuild()
 {
 	bRefreshRequested = false;
+	const TMap<FString, bool> Expansion = SaveExpansion();
 	// The old layout, its rows and its customisation instances go before the new ones are made.
 	Categories.Empty();
 	LayoutBuilder.Reset();
@@ -65,13 +97,58 @@ void FHeadlessDetailsView::Rebuild()
 			Live.Add(Pinned);
 		}
 	}
-	if (Live.Num() == 0)
+	if (Live.Num() > 0)
 	{
-		return;
+		RootNode = MakeShared<FDetailPropertyNode>(this, Objects);
+		LayoutBuilder = MakeShared<FDetailLayoutBuilderImpl>(*this, RootNode.ToSharedRef());
+		Categories = LayoutBuilder->Build();
+		RestoreExpansion(Expansion);
 	}
-	RootNode = MakeShared<FDetailPropertyNode>(this, Objects);
-	LayoutBuilder = MakeShared<FDetailLayoutBuilderImpl>(*this, RootNode.ToSharedRef());
-	Categories = LayoutBuilder->Build();
+	LayoutChanged.Broadcast();
+}
+
+void FHeadlessDetailsView::SetExpanded(FHeadlessDetailCategory& Category, bool bExpanded)
+{
+	Category.bExpanded = bExpanded;
+	LayoutChanged.Broadcast();
+}
+
+void FHeadlessDetailsView::SetExpanded(FHeadlessDetailRow& Row, bool bExpanded)
+{
+	Row.bExpanded = bExpanded;
+	LayoutChanged.Broadcast();
+}
+
+void FHeadlessDetailsView::SetAdvancedShown(FHeadlessDetailCategory& Category, bool bShown)
+{
+	Category.bShowAdvanced = bShown;
+	LayoutChanged.Broadcast();
+}
+
+TMap<FString, bool> FHeadlessDetailsView::SaveExpansion() const
+{
+	TMap<FString, bool> Saved;
+	for (const TSharedRef<FHeadlessDetailCategory>& Category : Categories)
+	{
+		Saved.Add(CategoryKey(*Category), Category->bExpanded);
+		Saved.Add(AdvancedKey(*Category), Category->bShowAdvanced);
+		auto SaveRow = [&Saved](const FHeadlessDetailRow& Row, const FString& Path)
+		{ Saved.Add(Path, Row.bExpanded); };
+		VisitRows(Category->Rows, CategoryKey(*Category), SaveRow);
+	}
+	return Saved;
+}
+
+void FHeadlessDetailsView::RestoreExpansion(const TMap<FString, bool>& Saved)
+{
+	for (const TSharedRef<FHeadlessDetailCategory>& Category : Categories)
+	{
+		Restore(Saved, CategoryKey(*Category), Category->bExpanded);
+		Restore(Saved, AdvancedKey(*Category), Category->bShowAdvanced);
+		auto RestoreRow = [&Saved](FHeadlessDetailRow& Row, const FString& Path)
+		{ Restore(Saved, Path, Row.bExpanded); };
+		VisitRows(Category->Rows, CategoryKey(*Category), RestoreRow);
+	}
 }
 
 bool FHeadlessDetailsView::Tick()
@@ -109,50 +186,6 @@ TSharedRef<IPropertyHandle> FHeadlessDetailsView::GetPropertyHandle(FName Proper
 	return MakeShared<FPropertyHandleImpl>(TSharedPtr<FDetailPropertyNode>());
 }
 
-TSharedRef<SWidget> FHeadlessDetailsView::MakeDefaultValueWidget(const TSharedRef<IPropertyHandle>& Handle)
-{
-	const FProperty* Property = Handle->GetProperty();
-	if (!Property || CastField<FStructProperty>(Property))
-	{
-		return SNullWidget::NullWidget;
-	}
-	if (CastField<FBoolProperty>(Property))
-	{
-		return SNew(SCheckBox)
-			.IsChecked_Lambda([Handle]()
-				{
-					bool bValue = false;
-					const FPropertyAccess::Result Result = Handle->GetValue(bValue);
-					if (Result == FPropertyAccess::MultipleValues)
-					{
-						return ECheckBoxState::Undetermined;
-					}
-					return Result == FPropertyAccess::Success && bValue ? ECheckBoxState::Checked : ECheckBoxState::Unchecked; })
-			.OnCheckStateChanged_Lambda([Handle](ECheckBoxState NewState)
-				{ Handle->SetValue(NewState == ECheckBoxState::Checked); });
-	}
-	if (CastField<FArrayProperty>(Property))
-	{
-		return SNew(STextBlock)
-			.Font(IDetailLayoutBuilder::GetDetailFont())
-			.Text_Lambda([Handle]()
-				{
-					uint32 Count = 0;
-					Handle->GetNumChildren(Count);
-					return FText::Format(NSLOCTEXT("PropertyEditor", "NumArrayItemsFmt", "{0} Array elements"), FText::AsNumber(Count)); });
-	}
-	// Numbers, names, strings, texts, enumerations and objects are edited as their text form.
-	return SNew(SEditableTextBox)
-		.Font(IDetailLayoutBuilder::GetDetailFont())
-		.Text_Lambda([Handle]()
-			{
-				FString Value;
-				Handle->GetValueAsFormattedString(Value);
-				return FText::FromString(Value); })
-		.OnTextCommitted_Lambda([Handle](const FText& NewText, ETextCommit::Type CommitType)
-			{ Handle->SetValueFromFormattedString(NewText.ToString()); });
-}
-
 UClass* FHeadlessDetailsView::FindCommonBaseClass(const TArray<UObject*>& InObjects)
 {
 	UClass* Common = nullptr;
@@ -180,6 +213,7 @@ void FHeadlessDetailsView::EnqueueDeferredAction(FSimpleDelegate DeferredAction)
 void FHeadlessDetailsView::NotifyFinishedChangingProperties(const FPropertyChangedEvent& PropertyChangedEvent)
 {
 	++FinishedChangingCount;
+	FinishedChanging.Broadcast(PropertyChangedEvent);
 }
 
 bool FHeadlessDetailsView::HasClassDefaultObject() const
@@ -192,4 +226,10 @@ bool FHeadlessDetailsView::HasClassDefaultObject() const
 		}
 	}
 	return false;
+}
+
+FHeadlessDetailsView& UE::Headless::GetDetailsViewModel(IDetailsView& View)
+{
+	// Every details view the property editor makes is an SDetailsView.
+	return static_cast<SDetailsView&>(View).GetModel();
 }

@@ -106,6 +106,11 @@ namespace
 		Style.Set(TEXT("PrimaryButton"), FButtonStyle().SetNormal(FSlateRoundedBoxBrush(FStyleColors::Primary, 4.0f, FStyleColors::Input, InputFocusThickness)).SetHovered(FSlateRoundedBoxBrush(FStyleColors::PrimaryHover, 4.0f, FStyleColors::Input, InputFocusThickness)).SetPressed(FSlateRoundedBoxBrush(FStyleColors::PrimaryPress, 4.0f, FStyleColors::Input, InputFocusThickness)).SetDisabled(FSlateRoundedBoxBrush(FStyleColors::Dropdown, 4.0f, FStyleColors::Recessed, InputFocusThickness)).SetNormalForeground(FStyleColors::ForegroundHover).SetHoveredForeground(FStyleColors::ForegroundHover).SetPressedForeground(FStyleColors::ForegroundHover).SetDisabledForeground(FStyleColors::Foreground).SetNormalPadding(ButtonMargins).SetPressedPadding(PressedButtonMargins));
 	}
 
+	void SetInvisibleButtonStyles(FSlateStyleSet& Style)
+	{
+		Style.Set(TEXT("NoBorder"), FButtonStyle().SetNormal(FSlateNoResource()).SetHovered(FSlateNoResource()).SetPressed(FSlateNoResource()).SetNormalForeground(FStyleColors::ForegroundHover).SetHoveredForeground(FStyleColors::ForegroundHover).SetPressedForeground(FStyleColors::ForegroundHover).SetNormalPadding(FMargin(0.0f)).SetPressedPadding(FMargin(0.0f)));
+	}
+
 	void SetComboStyles(FSlateStyleSet& Style)
 	{
 		const FComboButtonStyle ComboButton = FComboButtonStyle()
@@ -140,6 +145,7 @@ namespace
 		Style.Set(TEXT("Scrollbar"), FScrollBarStyle().SetNormalThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover, 4.0f)).SetDraggedThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover2, 4.0f)).SetHoveredThumbImage(FSlateRoundedBoxBrush(FStyleColors::Hover2, 4.0f)).SetThickness(8.0f));
 		Style.Set(TEXT("ScrollBox"), FScrollBoxStyle().SetTopShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowTop.png")), FVector2D(16.0, 8.0), FMargin(0.5f, 1.0f, 0.5f, 0.0f))).SetBottomShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowBottom.png")), FVector2D(16.0, 8.0), FMargin(0.5f, 0.0f, 0.5f, 1.0f))).SetLeftShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowLeft.png")), FVector2D(8.0, 16.0), FMargin(1.0f, 0.5f, 0.0f, 0.5f))).SetRightShadowBrush(FSlateBoxBrush(CoreImage(TEXT("Common/ScrollBoxShadowRight.png")), FVector2D(8.0, 16.0), FMargin(0.0f, 0.5f, 1.0f, 0.5f))).SetBarThickness(8.0f));
 		Style.Set(TEXT("TableView.Row"), FTableRowStyle());
+		Style.Set(TEXT("Splitter"), FSplitterStyle().SetHandleNormalBrush(FSlateColorBrush(FStyleColors::Background)).SetHandleHighlightBrush(FSlateColorBrush(FStyleColors::Secondary)));
 		Style.Set(TEXT("Docking.Tab"), FDockTabStyle().SetContentAreaBrush(FSlateColorBrush(FStyleColors::Panel)).SetTabWellBrush(FSlateColorBrush(FStyleColors::Background)).SetTabPadding(FMargin(4.0f, 3.0f, 10.0f, 4.0f)).SetTabTextStyle(NormalText));
 		Style.Set(TEXT("Docking.MajorTab"), FDockTabStyle().SetContentAreaBrush(FSlateColorBrush(FStyleColors::Background)).SetTabWellBrush(FSlateColorBrush(FStyleColors::Background)).SetTabPadding(FMargin(4.0f, 4.0f, 10.0f, 4.0f)).SetTabTextStyle(NormalText));
 		Style.Set(TEXT("ToolTip.Font"), FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 9));
@@ -148,6 +154,27 @@ namespace
 		Style.Set(TEXT("PropertyWindow.NormalFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Regular"), 8));
 		Style.Set(TEXT("PropertyWindow.BoldFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Bold"), 8));
 		Style.Set(TEXT("PropertyWindow.ItalicFont"), FCoreStyle::GetDefaultFontStyle(TEXT("Italic"), 8));
+	}
+
+	/** The theme's panel colours by name, and the arrows of tree and details views. */
+	void SetPanelColorsAndTreeArrows(FSlateStyleSet& Style)
+	{
+		Style.Set(TEXT("Colors.Panel"), FStyleColors::Panel);
+		Style.Set(TEXT("Colors.Header"), FStyleColors::Header);
+		Style.Set(TEXT("TreeArrow_Collapsed"), new FSlateImageBrush(CoreImage(TEXT("Starship/Common/caret-right.png")), Icon16x16, FStyleColors::Foreground));
+		Style.Set(TEXT("TreeArrow_Expanded"), new FSlateImageBrush(CoreImage(TEXT("Starship/Common/caret-down.png")), Icon16x16, FStyleColors::Foreground));
+	}
+
+	/** What the editor's app style gives details panels: row brushes, the column splitter and the category text. */
+	void SetDetailsViewStyles(FSlateStyleSet& Style)
+	{
+		Style.Set(TEXT("DetailsView.CategoryTop"), new FSlateColorBrush(FStyleColors::Header));
+		// Tinted per row by the property editor, so drawn white here.
+		Style.Set(TEXT("DetailsView.CategoryMiddle"), new FSlateColorBrush(FStyleColors::White));
+		Style.Set(TEXT("DetailsView.GridLine"), new FSlateColorBrush(FStyleColors::Recessed));
+		Style.Set(TEXT("DetailsView.Splitter"), FSplitterStyle().SetHandleNormalBrush(FSlateColorBrush(FStyleColors::Recessed)).SetHandleHighlightBrush(FSlateColorBrush(FStyleColors::Recessed)));
+		Style.Set(TEXT("DetailsView.CategoryFontStyle"), FCoreStyle::GetDefaultFontStyle(TEXT("Bold"), 8));
+		Style.Set(TEXT("DetailsView.CategoryTextStyle"), FTextBlockStyle(MakeNormalText()).SetFont(FCoreStyle::GetDefaultFontStyle(TEXT("Bold"), 8)).SetColorAndOpacity(FStyleColors::ForegroundHeader));
 	}
 
 	/** The editor's dark core style, as the engine's "Starship" style sets it up. */
@@ -160,9 +187,12 @@ namespace
 			SetColorBrushes(Instance);
 			SetTextStyles(Instance);
 			SetButtonStyles(Instance);
+			SetInvisibleButtonStyles(Instance);
 			SetComboStyles(Instance);
 			SetCheckBoxStyles(Instance);
 			SetPanelStyles(Instance);
+			SetPanelColorsAndTreeArrows(Instance);
+			SetDetailsViewStyles(Instance);
 			return true;
 		}();
 		(void)bBuilt;

@@ -15,6 +15,7 @@ const FName FEditableTextBoxStyle::TypeName(TEXT("FEditableTextBoxStyle"));
 const FName FScrollBarStyle::TypeName(TEXT("FScrollBarStyle"));
 const FName FScrollBoxStyle::TypeName(TEXT("FScrollBoxStyle"));
 const FName FTableRowStyle::TypeName(TEXT("FTableRowStyle"));
+const FName FSplitterStyle::TypeName(TEXT("FSplitterStyle"));
 
 FTextBlockStyle::FTextBlockStyle()
 	: ShadowOffset(FVector2D::ZeroVector)
@@ -223,6 +224,19 @@ void FTableRowStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
 const FTableRowStyle& FTableRowStyle::GetDefault()
 {
 	static const FTableRowStyle Default;
+	return Default;
+}
+
+FSplitterStyle::FSplitterStyle() = default;
+
+void FSplitterStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	OutBrushes.Append({&HandleNormalBrush, &HandleHighlightBrush});
+}
+
+const FSplitterStyle& FSplitterStyle::GetDefault()
+{
+	static const FSplitterStyle Default;
 	return Default;
 }
 

@@ -873,6 +873,33 @@ struct SLATECORE_API FTableRowStyle : public FSlateWidgetStyle
 	}
 };
 
+/** How a splitter draws the handles between its children. */
+struct SLATECORE_API FSplitterStyle : public FSlateWidgetStyle
+{
+	FSplitterStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FSplitterStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Brush used to draw the handle in its normal state */
+	FSlateBrush HandleNormalBrush;
+	FSplitterStyle& SetHandleNormalBrush(const FSlateBrush& InHandleNormalBrush)
+	{
+		HandleNormalBrush = InHandleNormalBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the handle in its highlight state */
+	FSlateBrush HandleHighlightBrush;
+	FSplitterStyle& SetHandleHighlightBrush(const FSlateBrush& InHandleHighlightBrush)
+	{
+		HandleHighlightBrush = InHandleHighlightBrush;
+		return *this;
+	}
+};
+
 /** How a docking tab and the area holding its content draw themselves. */
 struct SLATECORE_API FDockTabStyle : public FSlateWidgetStyle
 {

@@ -29,6 +29,7 @@ SScrollBox::SScrollBox()
 	, Style(nullptr)
 	, ScrollBarStyle(nullptr)
 	, bScrollToEnd(false)
+	, bScrollBarIsExternal(false)
 {
 }
 
@@ -43,11 +44,20 @@ void SScrollBox::Construct(const FArguments& InArgs)
 	BackPadScrolling = InArgs._BackPadScrolling;
 	FrontPadScrolling = InArgs._FrontPadScrolling;
 
-	ScrollBar = ConstructScrollBar();
-	ScrollBar->SetThickness(InArgs._ScrollBarThickness);
-	ScrollBar->SetUserVisibility(InArgs._ScrollBarVisibility);
-	ScrollBar->SetScrollBarAlwaysVisible(InArgs._ScrollBarAlwaysVisible);
-	ScrollBarSlotPadding = InArgs._ScrollBarPadding;
+	bScrollBarIsExternal = InArgs._ExternalScrollbar.IsValid();
+	if (bScrollBarIsExternal)
+	{
+		ScrollBar = InArgs._ExternalScrollbar;
+		ScrollBar->SetOnUserScrolled(FOnUserScrolled::CreateSP(this, &SScrollBox::ScrollBar_OnUserScrolled));
+	}
+	else
+	{
+		ScrollBar = ConstructScrollBar();
+		ScrollBar->SetThickness(InArgs._ScrollBarThickness);
+		ScrollBar->SetUserVisibility(InArgs._ScrollBarVisibility);
+		ScrollBar->SetScrollBarAlwaysVisible(InArgs._ScrollBarAlwaysVisible);
+		ScrollBarSlotPadding = InArgs._ScrollBarPadding;
+	}
 
 	SAssignNew(ScrollPanel, SScrollPanel, MoveTemp(const_cast<TArray<FSlot::FSlotArguments>&>(InArgs._Slots)))
 		.Clipping(InArgs._Clipping)
@@ -73,16 +83,26 @@ TSharedPtr<SScrollBar> SScrollBox::ConstructScrollBar()
 
 void SScrollBox::ConstructVerticalLayout()
 {
-	// The scrolled content under its shadows, and the scroll bar at its right.
-	ChildSlot
-		[SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(1.0f)[SNew(SOverlay) + SOverlay::Slot().Padding(FMargin(0.0f, 0.0f, 0.0f, 1.0f))[ScrollPanel.ToSharedRef()] + SOverlay::Slot().HAlign(HAlign_Fill).VAlign(VAlign_Top)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetStartShadowOpacity).Image(&Style->TopShadowBrush)] + SOverlay::Slot().HAlign(HAlign_Fill).VAlign(VAlign_Bottom)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetEndShadowOpacity).Image(&Style->BottomShadowBrush)]] + SHorizontalBox::Slot().AutoWidth().Expose(VerticalScrollBarSlot).Padding(ScrollBarSlotPadding)[ScrollBar.ToSharedRef()]];
+	// The scrolled content under its shadows, and the scroll bar at its right unless the owner places it.
+	TSharedRef<SHorizontalBox> PanelAndScrollbar = SNew(SHorizontalBox) + SHorizontalBox::Slot().FillWidth(1.0f)[SNew(SOverlay) + SOverlay::Slot().Padding(FMargin(0.0f, 0.0f, 0.0f, 1.0f))[ScrollPanel.ToSharedRef()] + SOverlay::Slot().HAlign(HAlign_Fill).VAlign(VAlign_Top)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetStartShadowOpacity).Image(&Style->TopShadowBrush)] + SOverlay::Slot().HAlign(HAlign_Fill).VAlign(VAlign_Bottom)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetEndShadowOpacity).Image(&Style->BottomShadowBrush)]];
+	VerticalScrollBarSlot = nullptr;
+	if (!bScrollBarIsExternal)
+	{
+		PanelAndScrollbar->AddSlot().AutoWidth().Expose(VerticalScrollBarSlot).Padding(ScrollBarSlotPadding)[ScrollBar.ToSharedRef()];
+	}
+	ChildSlot[PanelAndScrollbar];
 }
 
 void SScrollBox::ConstructHorizontalLayout()
 {
-	// The scrolled content under its shadows, and the scroll bar below it.
-	ChildSlot
-		[SNew(SVerticalBox) + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SOverlay) + SOverlay::Slot().Padding(FMargin(0.0f, 0.0f, 1.0f, 0.0f))[ScrollPanel.ToSharedRef()] + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Fill)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetStartShadowOpacity).Image(&Style->LeftShadowBrush)] + SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Fill)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetEndShadowOpacity).Image(&Style->RightShadowBrush)]] + SVerticalBox::Slot().AutoHeight().Expose(HorizontalScrollBarSlot).Padding(ScrollBarSlotPadding)[ScrollBar.ToSharedRef()]];
+	// The scrolled content under its shadows, and the scroll bar below it unless the owner places it.
+	TSharedRef<SVerticalBox> PanelAndScrollbar = SNew(SVerticalBox) + SVerticalBox::Slot().FillHeight(1.0f)[SNew(SOverlay) + SOverlay::Slot().Padding(FMargin(0.0f, 0.0f, 1.0f, 0.0f))[ScrollPanel.ToSharedRef()] + SOverlay::Slot().HAlign(HAlign_Left).VAlign(VAlign_Fill)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetStartShadowOpacity).Image(&Style->LeftShadowBrush)] + SOverlay::Slot().HAlign(HAlign_Right).VAlign(VAlign_Fill)[SNew(SImage).Visibility(EVisibility::HitTestInvisible).ColorAndOpacity(this, &SScrollBox::GetEndShadowOpacity).Image(&Style->RightShadowBrush)]];
+	HorizontalScrollBarSlot = nullptr;
+	if (!bScrollBarIsExternal)
+	{
+		PanelAndScrollbar->AddSlot().AutoHeight().Expose(HorizontalScrollBarSlot).Padding(ScrollBarSlotPadding)[ScrollBar.ToSharedRef()];
+	}
+	ChildSlot[PanelAndScrollbar];
 }
 
 SScrollBox::FScopedWidgetSlotArguments SScrollBox::AddSlot()
@@ -171,11 +191,11 @@ void SScrollBox::SetScrollBarThickness(FVector2D InThickness)
 void SScrollBox::SetScrollBarPadding(const FMargin& InPadding)
 {
 	ScrollBarSlotPadding = InPadding;
-	if (Orientation == Orient_Vertical)
+	if (VerticalScrollBarSlot)
 	{
 		VerticalScrollBarSlot->SetPadding(ScrollBarSlotPadding);
 	}
-	else
+	if (HorizontalScrollBarSlot)
 	{
 		HorizontalScrollBarSlot->SetPadding(ScrollBarSlotPadding);
 	}

@@ -25,6 +25,7 @@ public:
 		: _Style(&FAppStyle::Get().GetWidgetStyle<FScrollBoxStyle>("ScrollBox"))
 		, _ScrollBarStyle(&FAppStyle::Get().GetWidgetStyle<FScrollBarStyle>("ScrollBar"))
 		, _Orientation(Orient_Vertical)
+		, _ExternalScrollbar()
 		, _ScrollBarVisibility(EVisibility::Visible)
 		, _ScrollBarAlwaysVisible(false)
 		, _ScrollBarThickness(FVector2D(_Style->BarThickness, _Style->BarThickness))
@@ -42,6 +43,8 @@ public:
 		SLATE_STYLE_ARGUMENT(FScrollBarStyle, ScrollBarStyle)
 		/** The direction that children will be stacked, and also the direction the box will scroll. */
 		SLATE_ARGUMENT(EOrientation, Orientation)
+		/** A scroll bar placed by the owner; the box then lays out no bar of its own. */
+		SLATE_ARGUMENT(TSharedPtr<SScrollBar>, ExternalScrollbar)
 		SLATE_ARGUMENT(EVisibility, ScrollBarVisibility)
 		SLATE_ARGUMENT(bool, ScrollBarAlwaysVisible)
 		SLATE_ARGUMENT(FVector2D, ScrollBarThickness)
@@ -165,6 +168,9 @@ public:
 
 		/** Whether the content scrolls to its end at the next tick. */
 		bool bScrollToEnd;
+
+		/** Whether the scroll bar belongs to the owner rather than to this box's layout. */
+		bool bScrollBarIsExternal;
 };
 
 /** The panel that stacks a scroll box's slots and moves them by the scroll offset. */
