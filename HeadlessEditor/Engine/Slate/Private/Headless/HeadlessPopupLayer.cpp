@@ -85,15 +85,17 @@ void SHeadlessPopupLayer::Construct(const FArguments& InArgs)
 
 TSharedRef<SWidget> SHeadlessPopupLayer::FindOrMakeWindow(const TSharedRef<SMenuAnchor>& Anchor) const
 {
-	for (const FPopup& Popup : Popups)
+	// An anchor opened again since the last frame has made a new drop-down.
+	const TSharedRef<SWidget> Content = FMenuAnchorAccess::GetWrappedContent(*Anchor).ToSharedRef();
+	Popups.RemoveAll([&Anchor, &Content](const FPopup& Popup)
+		{ return Popup.Anchor.Pin() == Anchor && Popup.Content.Pin().Get() != &Content.Get(); });
+	if (const FPopup* Existing = Popups.FindByPredicate([&Anchor](const FPopup& Popup)
+			{ return Popup.Anchor.Pin() == Anchor; }))
 	{
-		if (Popup.Anchor.Pin() == Anchor)
-		{
-			return Popup.Window.ToSharedRef();
-		}
+		return Existing->Window.ToSharedRef();
 	}
-	const TSharedRef<SWidget> Window = UE::Headless::MakeMenuWindow(FMenuAnchorAccess::GetWrappedContent(*Anchor).ToSharedRef());
-	Popups.Add(FPopup{Anchor, Window});
+	const TSharedRef<SWidget> Window = UE::Headless::MakeMenuWindow(Content);
+	Popups.Add(FPopup{Anchor, Content, Window});
 	return Window;
 }
 

@@ -25,14 +25,15 @@ public:
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
 private:
-	/** An open anchor and the menu window its drop-down is shown in. */
+	/** An open anchor, the drop-down it opened and the menu window it is shown in. */
 	struct FPopup
 	{
 		TWeakPtr<SMenuAnchor> Anchor;
+		TWeakPtr<SWidget> Content;
 		TSharedPtr<SWidget> Window;
 	};
 
-	/** The menu window of an open anchor, made once and kept while the anchor is open. */
+	/** The menu window of an open anchor's drop-down, made once and kept while that drop-down is open. */
 	TSharedRef<SWidget> FindOrMakeWindow(const TSharedRef<SMenuAnchor>& Anchor) const;
 
 	mutable TArray<FPopup> Popups;
