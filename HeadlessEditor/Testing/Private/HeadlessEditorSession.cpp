@@ -13,6 +13,7 @@
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "PlayInEditorDataTypes.h"
+#include "ToolMenus.h"
 
 namespace
 {
@@ -20,6 +21,14 @@ namespace
 
 	// Engine modules the editor has loaded before any plugin module starts.
 	const TCHAR* EngineStartupModules[] = {TEXT("Projects"), TEXT("ToolMenus"), TEXT("AssetRegistry"), TEXT("AssetTools")};
+
+	/** The level editor's toolbar of asset shortcuts, which plugins extend, as the level editor registers it. */
+	void RegisterLevelEditorToolBars()
+	{
+		UToolMenu* AssetsToolBar = UToolMenus::Get()->RegisterMenu(TEXT("LevelEditor.LevelEditorToolBar.AssetsToolBar"), NAME_None, EMultiBoxType::SlimHorizontalToolBar);
+		AssetsToolBar->StyleName = TEXT("AssetEditorToolbar");
+		AssetsToolBar->AddSection(TEXT("Content"));
+	}
 
 	/** The plugin's runtime modules in descriptor order; each loads only if its stand-in exists. */
 	TArray<FName> GetRuntimeModules(const FHeadlessEditorOptions& Options)
@@ -59,6 +68,7 @@ FHeadlessEditorSession::FHeadlessEditorSession(const FHeadlessEditorOptions& InO
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
 	}
+	RegisterLevelEditorToolBars();
 	if (Options.bPlacementModeLoaded)
 	{
 		FModuleManager::Get().LoadModuleChecked(TEXT("PlacementMode"));

@@ -1,5 +1,8 @@
 #include "HeadlessPlacementMode.h"
 #include "IPlacementModeModule.h"
+#include "SPlacementModeTools.h"
+#include "Styling/AppStyle.h"
+#include "Widgets/Layout/SBorder.h"
 
 namespace
 {
@@ -114,6 +117,17 @@ namespace
 int32 UE::Headless::GetPlacementModeStartupCount()
 {
 	return GStartupCount;
+}
+
+TSharedRef<SWidget> UE::Headless::MakePlacementPanel(FName ActiveCategory)
+{
+	const TSharedRef<SPlacementModeTools> Panel = SNew(SPlacementModeTools);
+	if (!ActiveCategory.IsNone())
+	{
+		Panel->SetActiveTab(ActiveCategory);
+	}
+	// On the content area of the dock tab the panel lives in.
+	return SNew(SBorder).Padding(0.0f).BorderImage(&FAppStyle::Get().GetWidgetStyle<FDockTabStyle>("Docking.Tab").ContentAreaBrush)[Panel];
 }
 
 IMPLEMENT_MODULE(FPlacementModeModule, PlacementMode)

@@ -41,4 +41,14 @@ namespace UE::Headless
 	SLATE_API bool ClickMenuEntry(const TSharedRef<SWidget>& MenuWidget, const FString& Label);
 	/** The menu as text, one line per block: headings, entries with their type and check state. */
 	SLATE_API FString DescribeMenu(const TSharedRef<SWidget>& MenuWidget);
+
+	/** The pop-up window a menu opens in: the menu's background and outline around the content. */
+	SLATE_API TSharedRef<SWidget> MakeMenuWindow(const TSharedRef<SWidget>& MenuContent);
+
+	/**
+	 * Root as a window shows it with its menus open: each open menu anchor in it (a combo button,
+	 * a sub-menu entry) has its drop-down drawn in a menu window where the editor opens it, below the
+	 * anchor or to its right, above everything else; menus opened inside those are drawn too.
+	 */
+	SLATE_API TSharedRef<SWidget> MakePopupLayer(const TSharedRef<SWidget>& Root);
 }

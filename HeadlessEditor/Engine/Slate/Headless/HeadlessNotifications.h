@@ -15,6 +15,12 @@ namespace UE::Headless
 	SLATE_API bool IsFireAndForget(const SNotificationItem& Item);
 	SLATE_API float GetWidthOverride(const SNotificationItem& Item);
 	SLATE_API const FSlateBrush* GetNotificationImage(const SNotificationItem& Item);
+	/**
+	 * The notification area as the editor places it over a window: the notifications on screen
+	 * stacked at the bottom right, oldest on top, clear of the window's edge and its status bar.
+	 * Draw it at the size of the window it covers.
+	 */
+	SLATE_API TSharedRef<SWidget> MakeNotificationArea();
 	/** Removes every notification, as closing the editor does. */
 	SLATE_API void ResetNotifications();
 }

@@ -1,6 +1,8 @@
 #include "ToolMenus.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "Styling/CoreStyle.h"
 #include "HeadlessToolMenus.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/Package.h"
@@ -45,6 +47,21 @@ class FPopulateMenuBuilderWithToolMenuEntry
 public:
 	static const FToolUIActionChoice& GetAction(const FToolMenuEntry& Entry) { return Entry.Action; }
 };
+
+FToolMenuContext::FToolMenuContext(UObject* InContext)
+{
+	if (InContext)
+	{
+		ContextObjects.Add(InContext);
+	}
+}
+
+FToolMenuContext::FToolMenuContext(TSharedPtr<FUICommandList> InCommandList, TSharedPtr<FExtender> InExtender, UObject* InContext)
+	: FToolMenuContext(InContext)
+{
+	CommandList = InCommandList;
+	Extender = InExtender;
+}
 
 FToolMenuEntry::FToolMenuEntry()
 	: Type(EMultiBlockType::None)
@@ -91,7 +108,11 @@ FToolMenuEntry* FToolMenuSection::FindEntry(const FName InName)
 		{ return Entry.Name == InName; });
 }
 
-UToolMenu::UToolMenu() = default;
+UToolMenu::UToolMenu()
+	: MenuType(EMultiBoxType::Menu)
+	, bRegistered(false)
+{
+}
 
 FToolMenuSection& UToolMenu::FindOrAddSection(const FName SectionName)
 {
@@ -185,6 +206,26 @@ void UToolMenus::PrivateStartupCallback()
 
 UToolMenu* UToolMenus::RegisterMenu(FName Name, const FName Parent, EMultiBoxType Type, bool bWarnIfAlreadyRegistered)
 {
+	// A menu extended before its owner registered it gets its kind now and keeps the extensions.
+	UToolMenu* Menu = FindMenu(Name);
+	if (!Menu)
+	{
+		Menu = NewObject<UToolMenu>(this);
+		Menu->MenuName = Name;
+		Menus.Add(Menu);
+	}
+	else if (Menu->bRegistered)
+	{
+		return Menu;
+	}
+	Menu->MenuType = Type;
+	Menu->bRegistered = true;
+	return Menu;
+}
+
+UToolMenu* UToolMenus::ExtendMenu(const FName Name)
+{
+	// Extending a menu that is not registered yet is allowed; the extension waits for it.
 	if (UToolMenu* Existing = FindMenu(Name))
 	{
 		return Existing;
@@ -193,12 +234,6 @@ UToolMenu* UToolMenus::RegisterMenu(FName Name, const FName Parent, EMultiBoxTyp
 	Menu->MenuName = Name;
 	Menus.Add(Menu);
 	return Menu;
-}
-
-UToolMenu* UToolMenus::ExtendMenu(const FName Name)
-{
-	// Extending a menu that is not registered yet is allowed; the extension waits for it.
-	return RegisterMenu(Name);
 }
 
 UToolMenu* UToolMenus::FindMenu(const FName Name)
@@ -211,7 +246,40 @@ UToolMenu* UToolMenus::FindMenu(const FName Name)
 bool UToolMenus::IsMenuRegistered(const FName Name) const
 {
 	return Menus.ContainsByPredicate([Name](const UToolMenu* Menu)
-		{ return Menu->MenuName == Name; });
+		{ return Menu->MenuName == Name && Menu->bRegistered; });
+}
+
+TSharedRef<SWidget> UToolMenus::GenerateWidget(const FName Name, const FToolMenuContext& InMenuContext)
+{
+	UToolMenu* Menu = FindMenu(Name);
+	if (!Menu || !Menu->bRegistered)
+	{
+		return SNullWidget::NullWidget;
+	}
+	// The headless editor's menu entries are toolbar combo buttons, so only toolbars are generated.
+	checkf(Menu->MenuType == EMultiBoxType::ToolBar || Menu->MenuType == EMultiBoxType::SlimHorizontalToolBar, TEXT("Menu %s is not a toolbar"), *Name.ToString());
+	TUniquePtr<FToolBarBuilder> Builder = Menu->MenuType == EMultiBoxType::SlimHorizontalToolBar ? MakeUnique<FSlimHorizontalToolBarBuilder>(InMenuContext.GetCommandList(), FMultiBoxCustomization::None) : MakeUnique<FToolBarBuilder>(InMenuContext.GetCommandList(), FMultiBoxCustomization::None);
+	if (Menu->StyleName != NAME_None)
+	{
+		Builder->SetStyle(&FCoreStyle::Get(), Menu->StyleName);
+	}
+	for (const FToolMenuSection& Section : Menu->Sections)
+	{
+		Builder->BeginSection(Section.Name);
+		for (const FToolMenuEntry& Entry : Section.Blocks)
+		{
+			if (Entry.Type != EMultiBlockType::ToolBarComboButton)
+			{
+				continue;
+			}
+			Builder->BeginStyleOverride(Entry.StyleNameOverride);
+			const FUIAction* Action = Entry.Action.GetUIAction();
+			Builder->AddComboButton(Action ? *Action : FUIAction(), Entry.ToolBarData.ComboButtonContextMenuGenerator.OnGetContent, Entry.Label, Entry.ToolTip, Entry.Icon, Entry.ToolBarData.bSimpleComboBox, Entry.TutorialHighlightName);
+			Builder->EndStyleOverride();
+		}
+		Builder->EndSection();
+	}
+	return Builder->MakeWidget();
 }
 
 void UToolMenus::PushOwner(const FToolMenuOwner InOwner)

@@ -20,6 +20,17 @@ public:
 	FToolMenuSection& AddSection(const FName SectionName, const TAttribute<FText>& InLabel = TAttribute<FText>());
 	FToolMenuSection* FindSection(const FName SectionName);
 
+	FName GetMenuName() const { return MenuName; }
+	/** Whether the menu's owner has registered it; a menu that was only extended so far is not. */
+	bool IsRegistered() const { return bRegistered; }
+
 	FName MenuName;
+	FName StyleName;
+	EMultiBoxType MenuType;
 	TArray<FToolMenuSection> Sections;
+
+private:
+	friend class UToolMenus;
+
+	bool bRegistered;
 };

@@ -4,6 +4,7 @@
 #include "IToolMenusModule.h"
 #include "Misc/CoreDelegates.h"
 #include "ToolMenu.h"
+#include "ToolMenuContext.h"
 #include "ToolMenuEntry.h"
 #include "ToolMenuOwner.h"
 #include "ToolMenuSection.h"
@@ -52,6 +53,9 @@ public:
 	UToolMenu* ExtendMenu(const FName Name);
 	UToolMenu* FindMenu(const FName Name);
 	bool IsMenuRegistered(const FName Name) const;
+
+	/** Makes the widget of a registered menu or toolbar, with the entries every owner added to it. */
+	TSharedRef<SWidget> GenerateWidget(const FName Name, const FToolMenuContext& InMenuContext);
 
 	FToolMenuOwner CurrentOwner() const;
 

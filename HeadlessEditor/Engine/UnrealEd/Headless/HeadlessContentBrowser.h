@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 
+class SWidget;
 class UFactory;
 class UObject;
 
@@ -25,4 +26,14 @@ namespace UE::Headless
 	 * standalone and transactional flags, the package marked dirty.
 	 */
 	UNREALED_API FNewAssetResult CreateNewAsset(const UFactory& FactoryDefault, const FString& AssetName, const FString& PackagePath);
+
+	/** The factory's entry in the new-asset menu as the content browser draws it: its class's thumbnail and its name. */
+	UNREALED_API TSharedRef<SWidget> MakeNewAssetMenuEntry(UFactory& Factory);
+
+	/**
+	 * The sub-menu of a group of the "Add" menu (EAssetTypeCategories bits, such as Misc for
+	 * "Miscellaneous", where factories go whose class has no asset type of its own), as it opens:
+	 * an entry per factory of the group, by name. Draw it in UE::Headless::MakeMenuWindow.
+	 */
+	UNREALED_API TSharedRef<SWidget> MakeNewAssetCategoryMenu(uint32 AssetTypeCategory);
 }

@@ -305,6 +305,22 @@ bool FText::EqualToCaseIgnored(const FText& Other) const
 	return Data->Display.Equals(Other.Data->Display, ESearchCase::IgnoreCase);
 }
 
+int32 FText::CompareTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel) const
+{
+	// The root collation for the editor's texts: letters decide, case only breaks ties, lower case first.
+	const int32 CaseIgnored = CompareToCaseIgnored(Other);
+	if (CaseIgnored != 0 || ComparisonLevel == ETextComparisonLevel::Primary || ComparisonLevel == ETextComparisonLevel::Secondary)
+	{
+		return CaseIgnored;
+	}
+	return -Data->Display.Compare(Other.Data->Display, ESearchCase::CaseSensitive);
+}
+
+int32 FText::CompareToCaseIgnored(const FText& Other) const
+{
+	return Data->Display.Compare(Other.Data->Display, ESearchCase::IgnoreCase);
+}
+
 bool FText::IdenticalTo(const FText& Other) const
 {
 	return Data == Other.Data;

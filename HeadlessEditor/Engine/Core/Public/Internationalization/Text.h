@@ -26,6 +26,20 @@ typedef TSharedPtr<FCulture, ESPMode::ThreadSafe> FCulturePtr;
  * Localisable, immutable display text. Texts made by LOCTEXT/NSLOCTEXT remember their namespace
  * and key (see FTextInspector); the headless editor always shows the source (native) string.
  */
+/** How closely texts are compared: from the letters alone to every difference. */
+namespace ETextComparisonLevel
+{
+	enum Type
+	{
+		Default,
+		Primary,
+		Secondary,
+		Tertiary,
+		Quaternary,
+		Quinary,
+	};
+}
+
 class CORE_API FText
 {
 public:
@@ -66,6 +80,9 @@ public:
 	FText ToLower() const;
 	bool EqualTo(const FText& Other) const;
 	bool EqualToCaseIgnored(const FText& Other) const;
+	/** Orders texts as the culture sorts them: by letters first, and only then lower case before upper. */
+	int32 CompareTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel = ETextComparisonLevel::Default) const;
+	int32 CompareToCaseIgnored(const FText& Other) const;
 	bool IdenticalTo(const FText& Other) const;
 
 private:

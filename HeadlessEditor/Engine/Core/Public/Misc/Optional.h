@@ -33,6 +33,9 @@ public:
 		return *Value;
 	}
 	const OptionalType& Get(const OptionalType& DefaultValue) const { return IsSet() ? *Value : DefaultValue; }
+	/** The value, or null when it is not set. */
+	OptionalType* GetPtrOrNull() { return IsSet() ? &*Value : nullptr; }
+	const OptionalType* GetPtrOrNull() const { return IsSet() ? &*Value : nullptr; }
 	const OptionalType* operator->() const { return &GetValue(); }
 	void Reset() { Value.reset(); }
 	template <typename... ArgsType>

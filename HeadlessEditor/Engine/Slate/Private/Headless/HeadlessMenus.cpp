@@ -1,9 +1,16 @@
 #include "HeadlessMenus.h"
 
-#include "Framework/MultiBox/MenuBlocks.h"
 #include "Framework/MultiBox/MultiBox.h"
+#include "Framework/MultiBox/SHeadingBlock.h"
+#include "Framework/MultiBox/SMenuEntryBlock.h"
+#include "HeadlessPopupLayer.h"
 #include "Layout/Children.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/StyleDefaults.h"
+#include "Widgets/Images/SImage.h"
+#include "Widgets/Layout/SBorder.h"
 #include "Widgets/SBoxPanel.h"
+#include "Widgets/SOverlay.h"
 
 namespace
 {
@@ -91,7 +98,10 @@ TArray<UE::Headless::FMenuLine> UE::Headless::ReadMenu(const TSharedRef<SWidget>
 TOptional<float> UE::Headless::GetMenuMaxHeight(const TSharedRef<SWidget>& MenuWidget)
 {
 	// A capped menu holds its scroll box in a vertical box slot whose max height is the cap.
-	AsMenuWidget(MenuWidget);
+	if (AsMenuWidget(MenuWidget).GetMultiBox()->GetBlocks().Num() == 0)
+	{
+		return TOptional<float>();
+	}
 	const TSharedRef<SWidget> RootBorder = MenuWidget->GetChildren()->GetChildAt(0);
 	const TSharedRef<SWidget> MainWidget = RootBorder->GetChildren()->GetChildAt(0);
 	if (MainWidget->GetType() != TEXT("SVerticalBox"))
@@ -143,4 +153,15 @@ FString UE::Headless::DescribeMenu(const TSharedRef<SWidget>& MenuWidget)
 		}
 	}
 	return Result;
+}
+
+TSharedRef<SWidget> UE::Headless::MakeMenuWindow(const TSharedRef<SWidget>& MenuContent)
+{
+	// As the menu stack wraps every menu it opens: a background, a thin outline, the default foreground.
+	return SNew(SOverlay) + SOverlay::Slot()[SNew(SImage).Image(FCoreStyle::Get().GetBrush("Menu.Background"))] + SOverlay::Slot()[SNew(SImage).Image(FCoreStyle::Get().GetOptionalBrush("Menu.Outline", nullptr))] + SOverlay::Slot()[SNew(SBorder).Padding(0.0f).BorderImage(FStyleDefaults::GetNoBrush()).ForegroundColor(FCoreStyle::Get().GetSlateColor("DefaultForeground"))[MenuContent]];
+}
+
+TSharedRef<SWidget> UE::Headless::MakePopupLayer(const TSharedRef<SWidget>& Root)
+{
+	return SNew(SHeadlessPopupLayer)[Root];
 }

@@ -2,6 +2,10 @@
 
 #include "Framework/Notifications/NotificationManager.h"
 #include "Framework/Notifications/NotificationManagerState.h"
+#include "Styling/AppStyle.h"
+#include "Styling/StyleDefaults.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/SBoxPanel.h"
 #include "Widgets/Notifications/SNotificationItemImpl.h"
 
 namespace UE::Headless
@@ -42,6 +46,25 @@ namespace UE::Headless
 	const FSlateBrush* GetNotificationImage(const SNotificationItem& Item)
 	{
 		return static_cast<const SNotificationItemImpl&>(Item).GetImage();
+	}
+
+	TSharedRef<SWidget> MakeNotificationArea()
+	{
+		// As the manager stacks the notification windows: up from the work area's bottom right corner,
+		// 15 from its right edge and 20 above the status bar, 20 apart.
+		const FVector2D NotificationOffset(15.0, 20.0);
+		const float StatusBarHeight = FAppStyle::Get().GetFloat("StatusBar.Height", nullptr, 0.0f);
+		TSharedRef<SVerticalBox> Stack = SNew(SVerticalBox);
+		const TArray<TSharedRef<SNotificationItem>>& Notifications = GetNotifications();
+		for (int32 Index = 0; Index < Notifications.Num(); ++Index)
+		{
+			Stack->AddSlot().AutoHeight().HAlign(HAlign_Right).Padding(0.0f, Index == 0 ? 0.0f : static_cast<float>(NotificationOffset.Y), 0.0f, 0.0f)[Notifications[Index]];
+		}
+		return SNew(SBorder)
+			.BorderImage(FStyleDefaults::GetNoBrush())
+			.HAlign(HAlign_Right)
+			.VAlign(VAlign_Bottom)
+			.Padding(FMargin(0.0f, 0.0f, static_cast<float>(NotificationOffset.X), static_cast<float>(NotificationOffset.Y) + StatusBarHeight))[Stack];
 	}
 
 	void ResetNotifications()

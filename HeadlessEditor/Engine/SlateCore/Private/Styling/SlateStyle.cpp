@@ -146,3 +146,15 @@ const FSlateColor FSlateStyleSet::GetSlateColor(const FName PropertyName, const 
 	const FLinearColor* Color = ColorValues.Find(Key);
 	return Color ? FSlateColor(*Color) : DefaultValue;
 }
+
+float FSlateStyleSet::GetFloat(const FName PropertyName, const ANSICHAR* Specifier, float DefaultValue, const ISlateStyle* RequestingStyle) const
+{
+	const float* Found = FloatValues.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : DefaultValue;
+}
+
+const FMargin& FSlateStyleSet::GetMargin(const FName PropertyName, const ANSICHAR* Specifier, const FMargin& DefaultValue, const ISlateStyle* RequestingStyle) const
+{
+	const FMargin* Found = MarginValues.Find(Join(PropertyName, Specifier));
+	return Found ? *Found : DefaultValue;
+}

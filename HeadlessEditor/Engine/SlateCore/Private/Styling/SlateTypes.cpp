@@ -255,3 +255,60 @@ const FDockTabStyle& FDockTabStyle::GetDefault()
 	static const FDockTabStyle Default;
 	return Default;
 }
+
+const FName FHyperlinkStyle::TypeName(TEXT("FHyperlinkStyle"));
+
+FHyperlinkStyle::FHyperlinkStyle() = default;
+
+void FHyperlinkStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	UnderlineStyle.GetResources(OutBrushes);
+	TextStyle.GetResources(OutBrushes);
+}
+
+const FHyperlinkStyle& FHyperlinkStyle::GetDefault()
+{
+	static const FHyperlinkStyle Default;
+	return Default;
+}
+
+const FName FWindowStyle::TypeName(TEXT("FWindowStyle"));
+
+FWindowStyle::FWindowStyle()
+	: BorderPadding(FMargin(5.0f, 5.0f, 5.0f, 5.0f))
+{
+}
+
+void FWindowStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	MinimizeButtonStyle.GetResources(OutBrushes);
+	MaximizeButtonStyle.GetResources(OutBrushes);
+	CloseButtonStyle.GetResources(OutBrushes);
+	TitleTextStyle.GetResources(OutBrushes);
+	OutBrushes.Append({&ActiveTitleBrush, &OutlineBrush, &BorderBrush, &BackgroundBrush});
+}
+
+const FWindowStyle& FWindowStyle::GetDefault()
+{
+	static const FWindowStyle Default;
+	return Default;
+}
+
+const FName FSearchBoxStyle::TypeName(TEXT("FSearchBoxStyle"));
+
+FSearchBoxStyle::FSearchBoxStyle()
+	: bLeftAlignGlassImageAndClearButton(false)
+{
+}
+
+void FSearchBoxStyle::GetResources(TArray<const FSlateBrush*>& OutBrushes) const
+{
+	TextBoxStyle.GetResources(OutBrushes);
+	OutBrushes.Append({&GlassImage, &ClearImage});
+}
+
+const FSearchBoxStyle& FSearchBoxStyle::GetDefault()
+{
+	static const FSearchBoxStyle Default;
+	return Default;
+}

@@ -20,20 +20,22 @@ FSlateIcon::FSlateIcon(const FName InStyleSetName, const FName InStyleName, cons
 
 const FSlateBrush* FSlateIcon::GetIcon() const
 {
+	// A key the style set lacks gives no brush, not the style set's placeholder: menus then leave the icon out.
 	const ISlateStyle* StyleSet = GetStyleSet();
-	return StyleSet ? StyleSet->GetBrush(StyleName) : FStyleDefaults::GetNoBrush();
+	return StyleSet ? StyleSet->GetOptionalBrush(StyleName) : FStyleDefaults::GetNoBrush();
 }
 
 const FSlateBrush* FSlateIcon::GetOptionalIcon() const
 {
-	const ISlateStyle* StyleSet = GetStyleSet();
-	return StyleSet ? StyleSet->GetOptionalBrush(StyleName, nullptr, nullptr) : nullptr;
+	const FSlateBrush* Icon = GetIcon();
+	return Icon == FStyleDefaults::GetNoBrush() ? nullptr : Icon;
 }
 
 const FSlateBrush* FSlateIcon::GetSmallIcon() const
 {
 	const ISlateStyle* StyleSet = GetStyleSet();
-	return StyleSet ? StyleSet->GetBrush(SmallStyleName) : FStyleDefaults::GetNoBrush();
+	const FSlateBrush* SmallIcon = StyleSet ? StyleSet->GetOptionalBrush(SmallStyleName) : FStyleDefaults::GetNoBrush();
+	return SmallIcon != FStyleDefaults::GetNoBrush() ? SmallIcon : GetIcon();
 }
 
 const FSlateBrush* FSlateIcon::GetOverlayIcon() const

@@ -16,6 +16,11 @@ struct SLATECORE_API FSlateBoxBrush : public FSlateBrush
 	{
 	}
 
+	FSlateBoxBrush(const FString& InImageName, const FMargin& InMargin, const FSlateColor& InColorAndOpacity, ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
+		: FSlateBrush(ESlateBrushDrawType::Box, FName(*InImageName), InMargin, ESlateBrushTileType::NoTile, InImageType, FVector2D(32, 32), InColorAndOpacity)
+	{
+	}
+
 	FSlateBoxBrush(const FString& InImageName, const FVector2D& InImageSize, const FMargin& InMargin, const FLinearColor& InColorAndOpacity = FLinearColor(1, 1, 1, 1), ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
 		: FSlateBrush(ESlateBrushDrawType::Box, FName(*InImageName), InMargin, ESlateBrushTileType::NoTile, InImageType, InImageSize, InColorAndOpacity)
 	{

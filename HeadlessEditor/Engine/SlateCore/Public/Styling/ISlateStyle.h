@@ -37,6 +37,12 @@ public:
 	virtual const FLinearColor& GetColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FLinearColor& DefaultValue = FStyleDefaults::GetColor(), const ISlateStyle* RequestingStyle = nullptr) const = 0;
 	virtual const FSlateColor GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateColor& DefaultValue = FStyleDefaults::GetSlateColor(), const ISlateStyle* RequestingStyle = nullptr) const = 0;
 
+	/** The number under PropertyName (+ Specifier); DefaultValue if there is none. */
+	virtual float GetFloat(const FName PropertyName, const ANSICHAR* Specifier = nullptr, float DefaultValue = FStyleDefaults::GetFloat(), const ISlateStyle* RequestingStyle = nullptr) const = 0;
+
+	/** The margin under PropertyName (+ Specifier); DefaultValue if there is none. */
+	virtual const FMargin& GetMargin(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FMargin& DefaultValue = FStyleDefaults::GetMargin(), const ISlateStyle* RequestingStyle = nullptr) const = 0;
+
 	/** The brush under PropertyName (+ Specifier); the style's default brush if there is none. */
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const ISlateStyle* RequestingStyle = nullptr) const = 0;
 
@@ -49,12 +55,12 @@ public:
 	/** The font under PropertyName (+ Specifier); the default font if there is none. */
 	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
 
+	/** Joins a property name and an optional specifier into the key they are stored under. */
+	static FName Join(FName First, const ANSICHAR* Second);
+
 protected:
 	friend class FSlateStyleSet;
 
 	/** The style of the given type under StyleName; DefaultStyle when there is none. */
 	virtual const FSlateWidgetStyle* GetWidgetStyleInternal(const FName DesiredTypeName, const FName StyleName, const FSlateWidgetStyle* DefaultStyle, bool bWarnIfNotFound) const = 0;
-
-	/** Joins a property name and an optional specifier into the key they are stored under. */
-	static FName Join(FName First, const ANSICHAR* Second);
 };

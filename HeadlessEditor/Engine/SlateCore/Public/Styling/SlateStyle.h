@@ -32,6 +32,8 @@ public:
 	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
 	virtual const FLinearColor& GetColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FLinearColor& DefaultValue = FStyleDefaults::GetColor(), const ISlateStyle* RequestingStyle = nullptr) const override;
 	virtual const FSlateColor GetSlateColor(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateColor& DefaultValue = FStyleDefaults::GetSlateColor(), const ISlateStyle* RequestingStyle = nullptr) const override;
+	virtual float GetFloat(const FName PropertyName, const ANSICHAR* Specifier = nullptr, float DefaultValue = FStyleDefaults::GetFloat(), const ISlateStyle* RequestingStyle = nullptr) const override;
+	virtual const FMargin& GetMargin(const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FMargin& DefaultValue = FStyleDefaults::GetMargin(), const ISlateStyle* RequestingStyle = nullptr) const override;
 
 	/** Adds a brush made with new; the style set owns it from now on and deletes it with itself. */
 	template <typename BrushType>
@@ -43,6 +45,16 @@ public:
 	FORCENOINLINE void Set(FName PropertyName, const FSlateFontInfo& InFontInfo)
 	{
 		FontInfoResources.Add(PropertyName, InFontInfo);
+	}
+
+	FORCENOINLINE void Set(const FName PropertyName, const float InFloat)
+	{
+		FloatValues.Add(PropertyName, InFloat);
+	}
+
+	FORCENOINLINE void Set(const FName PropertyName, const FMargin& InMargin)
+	{
+		MarginValues.Add(PropertyName, InMargin);
 	}
 
 	FORCENOINLINE void Set(const FName PropertyName, const FLinearColor& InColor)
@@ -81,6 +93,8 @@ protected:
 	TMap<FName, FSlateFontInfo> FontInfoResources;
 	TMap<FName, FLinearColor> ColorValues;
 	TMap<FName, FSlateColor> SlateColorValues;
+	TMap<FName, float> FloatValues;
+	TMap<FName, FMargin> MarginValues;
 
 	/** The brush drawn for a key that is missing */
 	FSlateBrush* DefaultBrush;

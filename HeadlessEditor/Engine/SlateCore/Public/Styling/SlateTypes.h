@@ -942,3 +942,172 @@ struct SLATECORE_API FDockTabStyle : public FSlateWidgetStyle
 		return *this;
 	}
 };
+
+/** How a hyperlink draws itself: text over a button whose brushes underline it. */
+struct SLATECORE_API FHyperlinkStyle : public FSlateWidgetStyle
+{
+	FHyperlinkStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FHyperlinkStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Underline style */
+	FButtonStyle UnderlineStyle;
+	FHyperlinkStyle& SetUnderlineStyle(const FButtonStyle& InUnderlineStyle)
+	{
+		UnderlineStyle = InUnderlineStyle;
+		return *this;
+	}
+
+	/** Text style */
+	FTextBlockStyle TextStyle;
+	FHyperlinkStyle& SetTextStyle(const FTextBlockStyle& InTextStyle)
+	{
+		TextStyle = InTextStyle;
+		return *this;
+	}
+
+	/** Padding */
+	FMargin Padding;
+	FHyperlinkStyle& SetPadding(const FMargin& InPadding)
+	{
+		Padding = InPadding;
+		return *this;
+	}
+};
+
+/** How a window draws its frame: background, border, outline, title and the buttons of its title bar. */
+struct SLATECORE_API FWindowStyle : public FSlateWidgetStyle
+{
+	FWindowStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FWindowStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Style used to draw the window minimize button */
+	FButtonStyle MinimizeButtonStyle;
+	FWindowStyle& SetMinimizeButtonStyle(const FButtonStyle& InMinimizeButtonStyle)
+	{
+		MinimizeButtonStyle = InMinimizeButtonStyle;
+		return *this;
+	}
+
+	/** Style used to draw the window maximize button */
+	FButtonStyle MaximizeButtonStyle;
+	FWindowStyle& SetMaximizeButtonStyle(const FButtonStyle& InMaximizeButtonStyle)
+	{
+		MaximizeButtonStyle = InMaximizeButtonStyle;
+		return *this;
+	}
+
+	/** Style used to draw the window close button */
+	FButtonStyle CloseButtonStyle;
+	FWindowStyle& SetCloseButtonStyle(const FButtonStyle& InCloseButtonStyle)
+	{
+		CloseButtonStyle = InCloseButtonStyle;
+		return *this;
+	}
+
+	/** Style used to draw the window title text */
+	FTextBlockStyle TitleTextStyle;
+	FWindowStyle& SetTitleTextStyle(const FTextBlockStyle& InTitleTextStyle)
+	{
+		TitleTextStyle = InTitleTextStyle;
+		return *this;
+	}
+
+	/** Brush used to draw the window title area when the window is active */
+	FSlateBrush ActiveTitleBrush;
+	FWindowStyle& SetActiveTitleBrush(const FSlateBrush& InActiveTitleBrush)
+	{
+		ActiveTitleBrush = InActiveTitleBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the window outline */
+	FSlateBrush OutlineBrush;
+	FWindowStyle& SetOutlineBrush(const FSlateBrush& InOutlineBrush)
+	{
+		OutlineBrush = InOutlineBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the window border */
+	FSlateBrush BorderBrush;
+	FWindowStyle& SetBorderBrush(const FSlateBrush& InBorderBrush)
+	{
+		BorderBrush = InBorderBrush;
+		return *this;
+	}
+
+	/** Brush used to draw the window background */
+	FSlateBrush BackgroundBrush;
+	FWindowStyle& SetBackgroundBrush(const FSlateBrush& InBackgroundBrush)
+	{
+		BackgroundBrush = InBackgroundBrush;
+		return *this;
+	}
+
+	/** Space between the window's edge and its title bar and content. */
+	FMargin BorderPadding;
+	FWindowStyle& SetBorderPadding(FMargin InBorderPadding)
+	{
+		BorderPadding = InBorderPadding;
+		return *this;
+	}
+};
+
+/** How a search box draws itself: an editable text box with a magnifying glass and a clear button. */
+struct SLATECORE_API FSearchBoxStyle : public FSlateWidgetStyle
+{
+	FSearchBoxStyle();
+
+	virtual void GetResources(TArray<const FSlateBrush*>& OutBrushes) const override;
+	virtual const FName GetTypeName() const override { return TypeName; }
+	static const FSearchBoxStyle& GetDefault();
+	static const FName TypeName;
+
+	/** Style to use for the text box part of the search box */
+	FEditableTextBoxStyle TextBoxStyle;
+	FSearchBoxStyle& SetTextBoxStyle(const FEditableTextBoxStyle& InTextBoxStyle)
+	{
+		TextBoxStyle = InTextBoxStyle;
+		return *this;
+	}
+
+	/** Image used for the search glass */
+	FSlateBrush GlassImage;
+	FSearchBoxStyle& SetGlassImage(const FSlateBrush& InGlassImage)
+	{
+		GlassImage = InGlassImage;
+		return *this;
+	}
+
+	/** Image used to clear the search */
+	FSlateBrush ClearImage;
+	FSearchBoxStyle& SetClearImage(const FSlateBrush& InClearImage)
+	{
+		ClearImage = InClearImage;
+		return *this;
+	}
+
+	/** Padding to apply around the glass image */
+	FMargin ImagePadding;
+	FSearchBoxStyle& SetImagePadding(const FMargin& InImagePadding)
+	{
+		ImagePadding = InImagePadding;
+		return *this;
+	}
+
+	/** Whether the glass image and the clear button go at the left of the text */
+	bool bLeftAlignGlassImageAndClearButton;
+	FSearchBoxStyle& SetLeftAlignGlassImageAndClearButton(bool bInLeftAlignGlassImageAndClearButton)
+	{
+		bLeftAlignGlassImageAndClearButton = bInLeftAlignGlassImageAndClearButton;
+		return *this;
+	}
+};

@@ -14,7 +14,7 @@ public:
 
 	FSlateIcon(const FName InStyleSetName, const FName InStyleName, const FName InSmallStyleName = NAME_None, const FName InStatusOverlayStyleName = NAME_None);
 
-	/** The icon's brush: the style set's brush under the style name (its default brush if missing). */
+	/** The icon's brush: the style set's brush under the style name, or the empty brush when either is missing. */
 	const FSlateBrush* GetIcon() const;
 	/** As GetIcon, but nullptr when the style set or the key is missing. */
 	const FSlateBrush* GetOptionalIcon() const;

@@ -58,3 +58,34 @@ namespace ETextCommit
 		OnCleared
 	};
 }
+
+/** Where a pop-up menu opens relative to the widget that summons it. */
+enum EMenuPlacement : int
+{
+	/** Place the menu immediately below the anchor */
+	MenuPlacement_BelowAnchor,
+	/** Place the menu immediately centered below the anchor */
+	MenuPlacement_CenteredBelowAnchor,
+	/** Place the menu immediately below the anchor and match is right edge */
+	MenuPlacement_BelowRightAnchor,
+	/** Place the menu immediately below the anchor and match the width to the anchor's content */
+	MenuPlacement_ComboBox,
+	/** Place the menu immediately below the anchor and match the width to the anchor's content. If the width overflows, align with the right edge of the anchor. */
+	MenuPlacement_ComboBoxRight,
+	/** Place the menu to the right of the anchor */
+	MenuPlacement_MenuRight,
+	/** Place the menu immediately above the anchor, not transition effect */
+	MenuPlacement_AboveAnchor,
+	/** Place the menu immediately centered above the anchor */
+	MenuPlacement_CenteredAboveAnchor,
+	/** Place the menu immediately above the anchor and match is right edge */
+	MenuPlacement_AboveRightAnchor,
+	/** Place the menu to the left of the anchor */
+	MenuPlacement_MenuLeft,
+	/** Place the menu centered on the anchor */
+	MenuPlacement_Center,
+	/** Place the menu to the right of the anchor and match the bottom left of both */
+	MenuPlacement_RightLeftCenter,
+	/** Place the menu immediately below the anchor and match left and bottom of the anchor */
+	MenuPlacement_MatchBottomLeft,
+};

@@ -4,6 +4,7 @@
 #include "Layout/Clipping.h"
 #include "Layout/Visibility.h"
 #include "Misc/Attribute.h"
+#include "Styling/ISlateStyle.h"
 #include "Templates/Identity.h"
 #include "Widgets/IToolTip.h"
 #include "Widgets/SNullWidget.h"
@@ -110,6 +111,12 @@ public: \
 	WidgetArgsType& ArgName(const ArgType* InArg) \
 	{ \
 		_##ArgName = InArg; \
+		return static_cast<WidgetArgsType*>(this)->Me(); \
+	} \
+	WidgetArgsType& ArgName(const ISlateStyle* InSlateStyle, const FName& StyleName, const ANSICHAR* Specifier = nullptr) \
+	{ \
+		check(InSlateStyle); \
+		_##ArgName = &InSlateStyle->GetWidgetStyle<ArgType>(StyleName, Specifier); \
 		return static_cast<WidgetArgsType*>(this)->Me(); \
 	}
 

@@ -1,5 +1,6 @@
 #include "Factories/Factory.h"
 
+#include "AssetTypeCategories.h"
 #include "UObject/Class.h"
 
 UFactory::UFactory(const FObjectInitializer& ObjectInitializer)
@@ -50,4 +51,22 @@ bool UFactory::ConfigureProperties()
 UClass* UFactory::GetSupportedClass() const
 {
 	return SupportedClass;
+}
+
+FName UFactory::GetNewAssetThumbnailOverride() const
+{
+	return NAME_None;
+}
+
+uint32 UFactory::GetMenuCategories() const
+{
+	// The asset type actions of the supported class would choose the groups; the headless editor
+	// registers none, so every factory falls in the group of factories whose class has none.
+	return EAssetTypeCategories::Misc;
+}
+
+const TArray<FText>& UFactory::GetMenuCategorySubMenus() const
+{
+	static const TArray<FText> EmptySubMenus;
+	return EmptySubMenus;
 }

@@ -1,5 +1,6 @@
 #include "HeadlessContentBrowser.h"
 
+#include "ContentBrowser/NewAssetContextMenu.h"
 #include "Factories/Factory.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
@@ -43,4 +44,14 @@ UE::Headless::FNewAssetResult UE::Headless::CreateNewAsset(const UFactory& Facto
 		Result.bEditorOpened = Factory->bEditAfterNew;
 	}
 	return Result;
+}
+
+TSharedRef<SWidget> UE::Headless::MakeNewAssetMenuEntry(UFactory& Factory)
+{
+	return SNew(SFactoryMenuEntry, &Factory);
+}
+
+TSharedRef<SWidget> UE::Headless::MakeNewAssetCategoryMenu(uint32 AssetTypeCategory)
+{
+	return FNewAssetContextMenu::MakeCategoryMenu(AssetTypeCategory);
 }

@@ -26,6 +26,12 @@ public:
 	virtual FText GetDisplayName() const;
 	/** Whether the content browser's new-asset menu lists this factory; the default is CanCreateNew(). */
 	virtual bool ShouldShowInNewMenu() const;
+	/** The thumbnail brush the new-asset menu shows for the factory in place of its class's. */
+	virtual FName GetNewAssetThumbnailOverride() const;
+	/** The groups of the new-asset menu the factory is listed in, as EAssetTypeCategories bits. */
+	virtual uint32 GetMenuCategories() const;
+	/** The sub-menus, within its group, the factory is listed in. */
+	virtual const TArray<FText>& GetMenuCategorySubMenus() const;
 	/** Asks the user for creation options; false cancels the creation. */
 	virtual bool ConfigureProperties();
 

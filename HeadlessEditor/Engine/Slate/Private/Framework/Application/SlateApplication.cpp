@@ -1,5 +1,9 @@
 #include "Framework/Application/SlateApplication.h"
 
+#include "Framework/Application/SWindowTitleBar.h"
+#include "Styling/CoreStyle.h"
+#include "Styling/ISlateStyle.h"
+#include "Styling/SlateStyleRegistry.h"
 #include "Widgets/SToolTip.h"
 #include "Widgets/SWidget.h"
 
@@ -12,6 +16,8 @@ void FSlateApplication::Create()
 	check(!CurrentApplication.IsValid());
 	CurrentApplication = MakeShareable(new FSlateApplication());
 	CurrentBaseApplication = CurrentApplication;
+	// The core style is found by name from now on, as icons and the application style find it.
+	FSlateStyleRegistry::RegisterSlateStyle(FCoreStyle::Get());
 }
 
 void FSlateApplication::Shutdown(bool bShutdownPlatform)
@@ -20,6 +26,7 @@ void FSlateApplication::Shutdown(bool bShutdownPlatform)
 	{
 		CurrentApplication->KeyboardFocusedWidget.Reset();
 		CurrentApplication->Renderer.Reset();
+		FSlateStyleRegistry::UnRegisterSlateStyle(FCoreStyle::Get());
 		CurrentBaseApplication.Reset();
 		CurrentApplication.Reset();
 	}
@@ -121,4 +128,11 @@ TSharedRef<IToolTip> FSlateApplication::MakeToolTip(const TAttribute<FText>& Too
 TSharedRef<IToolTip> FSlateApplication::MakeToolTip(const FText& ToolTipText)
 {
 	return SNew(SToolTip).Text(ToolTipText);
+}
+
+TSharedRef<SWidget> FSlateApplication::MakeWindowTitleBar(const FWindowTitleBarArgs& InArgs, TSharedPtr<IWindowTitleBar>& OutTitleBar) const
+{
+	TSharedRef<SWindowTitleBar> TitleBar = SNew(SWindowTitleBar, InArgs.Window, InArgs.CenterContent, InArgs.CenterContentAlignment).Visibility(EVisibility::SelfHitTestInvisible);
+	OutTitleBar = TitleBar;
+	return TitleBar;
 }

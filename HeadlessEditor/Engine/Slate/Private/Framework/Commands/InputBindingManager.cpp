@@ -19,6 +19,12 @@ void FInputBindingManager::CreateInputCommand(const TSharedRef<FBindingContext>&
 			   { return Existing->GetCommandName() == InCommandInfo->GetCommandName(); }),
 		TEXT("A command named %s already exists in context %s"), *InCommandInfo->GetCommandName().ToString(), *InBindingContext->GetContextName().ToString());
 	Entry.Commands.Add(InCommandInfo);
+
+	// The headless editor has no user key bindings, so each command's shortcuts are its defaults.
+	for (int32 Index = 0; Index < InCommandInfo->ActiveChords.Num(); ++Index)
+	{
+		*InCommandInfo->ActiveChords[Index] = InCommandInfo->DefaultChords[Index];
+	}
 }
 
 void FInputBindingManager::RemoveInputCommand(const TSharedRef<FBindingContext>& InBindingContext, TSharedRef<FUICommandInfo> InCommandInfo)

@@ -34,3 +34,15 @@ void FUICommandInfo::UnregisterCommandInfo(const TSharedRef<FBindingContext>& In
 {
 	FInputBindingManager::Get().RemoveInputCommand(InContext, InCommand);
 }
+
+const FText FUICommandInfo::GetInputText() const
+{
+	for (const TSharedRef<FInputChord>& Chord : ActiveChords)
+	{
+		if (Chord->IsValidChord())
+		{
+			return Chord->GetInputText();
+		}
+	}
+	return FText::GetEmpty();
+}

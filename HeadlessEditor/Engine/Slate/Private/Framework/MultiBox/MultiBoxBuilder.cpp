@@ -1,6 +1,10 @@
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 
-#include "MenuBlocks.h"
+#include "Framework/MultiBox/SToolBarComboButtonBlock.h"
+#include "SHeadingBlock.h"
+#include "SMenuEntryBlock.h"
+#include "SMenuSeparatorBlock.h"
+#include "SToolBarSeparatorBlock.h"
 
 namespace
 {
@@ -42,6 +46,11 @@ TSharedRef<FMultiBox> FMultiBoxBuilder::GetMultiBox()
 	return MultiBox;
 }
 
+void FMultiBoxBuilder::SetStyle(const ISlateStyle* InStyleSet, const FName& InStyleName)
+{
+	MultiBox->SetStyle(InStyleSet, InStyleName);
+}
+
 FBaseMenuBuilder::FBaseMenuBuilder(const EMultiBoxType InType, const bool bInShouldCloseWindowAfterMenuSelection, TSharedPtr<const FUICommandList> InCommandList, bool bInCloseSelfOnly, TSharedPtr<FExtender> InExtender, const ISlateStyle* InStyleSet, FName InTutorialHighlightName, FName InMenuName)
 	: FMultiBoxBuilder(InType, FMultiBoxCustomization::None, bInShouldCloseWindowAfterMenuSelection, InCommandList, InExtender, InTutorialHighlightName, InMenuName)
 	, bCloseSelfOnly(bInCloseSelfOnly)
@@ -64,6 +73,15 @@ void FBaseMenuBuilder::AddMenuEntry(const TAttribute<FText>& InLabel, const TAtt
 	ApplySectionBeginning();
 
 	TSharedRef<FMenuEntryBlock> NewMenuEntryBlock = MakeShared<FMenuEntryBlock>(InExtensionHook, InLabel, InToolTip, InIcon, UIAction, UserInterfaceActionType, bCloseSelfOnly);
+	NewMenuEntryBlock->SetTutorialHighlightName(GenerateTutorialIdentifierName(TutorialHighlightName, InTutorialHighlightName, nullptr, MultiBox->GetBlocks().Num()));
+	MultiBox->AddMultiBlock(NewMenuEntryBlock);
+}
+
+void FBaseMenuBuilder::AddMenuEntry(const FUIAction& UIAction, const TSharedRef<SWidget> Contents, const FName& InExtensionHook, const TAttribute<FText>& InToolTip, const EUserInterfaceActionType UserInterfaceActionType, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+
+	TSharedRef<FMenuEntryBlock> NewMenuEntryBlock = MakeShared<FMenuEntryBlock>(InExtensionHook, UIAction, Contents, InToolTip, UserInterfaceActionType, bCloseSelfOnly, MultiBox->ShouldCloseWindowAfterMenuSelection());
 	NewMenuEntryBlock->SetTutorialHighlightName(GenerateTutorialIdentifierName(TutorialHighlightName, InTutorialHighlightName, nullptr, MultiBox->GetBlocks().Num()));
 	MultiBox->AddMultiBlock(NewMenuEntryBlock);
 }
@@ -103,6 +121,18 @@ void FMenuBuilder::AddSeparator(FName InExtensionHook)
 	}
 }
 
+void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu, const FUIAction& InUIAction, FName InExtensionHook, const EUserInterfaceActionType InUserInterfaceActionType, const bool bInOpenSubMenuOnClick, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection)
+{
+	ApplySectionBeginning();
+
+	MultiBox->AddMultiBlock(MakeShared<FMenuEntryBlock>(InExtensionHook, InMenuLabel, InToolTip, InSubMenu, nullptr, true, bInOpenSubMenuOnClick, InIcon, InUIAction, InUserInterfaceActionType, bCloseSelfOnly, bInShouldCloseWindowAfterMenuSelection, CommandListStack.Last()));
+}
+
+void FMenuBuilder::AddSubMenu(const TAttribute<FText>& InMenuLabel, const TAttribute<FText>& InToolTip, const FNewMenuDelegate& InSubMenu, const bool bInOpenSubMenuOnClick, const FSlateIcon& InIcon, const bool bInShouldCloseWindowAfterMenuSelection, FName InExtensionHook)
+{
+	AddSubMenu(InMenuLabel, InToolTip, InSubMenu, FUIAction(), InExtensionHook, EUserInterfaceActionType::Button, bInOpenSubMenuOnClick, InIcon, bInShouldCloseWindowAfterMenuSelection);
+}
+
 TSharedRef<SWidget> FMenuBuilder::MakeWidget(FMultiBox::FOnMakeMultiBoxBuilderOverride* InMakeMultiBoxBuilderOverride, uint32 MaxHeight)
 {
 	TAttribute<float> MaxHeightAttribute;
@@ -123,5 +153,59 @@ void FMenuBuilder::ApplySectionBeginning()
 		}
 		bSectionNeedsToBeApplied = false;
 		CurrentSectionHeadingText = FText::GetEmpty();
+	}
+}
+
+void FToolBarBuilder::AddComboButton(const FUIAction& InAction, const FOnGetContent& InMenuContentGenerator, const TAttribute<FText>& InLabelOverride, const TAttribute<FText>& InToolTipOverride, const TAttribute<FSlateIcon>& InIconOverride, bool bInSimpleComboBox, FName InTutorialHighlightName)
+{
+	ApplySectionBeginning();
+
+	TSharedRef<FToolBarComboButtonBlock> NewToolBarComboButtonBlock = MakeShared<FToolBarComboButtonBlock>(InAction, InMenuContentGenerator, InLabelOverride, InToolTipOverride, InIconOverride, bInSimpleComboBox);
+	if (LabelVisibility.IsSet())
+	{
+		NewToolBarComboButtonBlock->SetLabelVisibility(LabelVisibility.GetValue());
+	}
+	NewToolBarComboButtonBlock->SetForceSmallIcons(bForceSmallIcons);
+	NewToolBarComboButtonBlock->SetTutorialHighlightName(GenerateTutorialIdentifierName(TutorialHighlightName, InTutorialHighlightName, nullptr, MultiBox->GetBlocks().Num()));
+	NewToolBarComboButtonBlock->SetStyleNameOverride(CurrentStyleOverride);
+	MultiBox->AddMultiBlock(NewToolBarComboButtonBlock);
+}
+
+void FToolBarBuilder::BeginSection(FName InExtensionHook)
+{
+	checkf(CurrentSectionExtensionHook == NAME_None && !bSectionNeedsToBeApplied, TEXT("Did you forget to call EndSection()?"));
+
+	// Applied with the section's first block, so that an empty section leaves no separator.
+	bSectionNeedsToBeApplied = true;
+	CurrentSectionExtensionHook = InExtensionHook;
+}
+
+void FToolBarBuilder::EndSection()
+{
+	CurrentSectionExtensionHook = NAME_None;
+	bSectionNeedsToBeApplied = false;
+}
+
+void FToolBarBuilder::BeginStyleOverride(FName StyleOverrideName)
+{
+	CurrentStyleOverride = StyleOverrideName;
+}
+
+void FToolBarBuilder::EndStyleOverride()
+{
+	CurrentStyleOverride = NAME_None;
+}
+
+void FToolBarBuilder::ApplySectionBeginning()
+{
+	if (bSectionNeedsToBeApplied)
+	{
+		if (MultiBox->GetBlocks().Num() > 0)
+		{
+			TSharedRef<FToolBarSeparatorBlock> NewSeparatorBlock = MakeShared<FToolBarSeparatorBlock>(CurrentSectionExtensionHook);
+			NewSeparatorBlock->SetStyleNameOverride(CurrentStyleOverride);
+			MultiBox->AddMultiBlock(NewSeparatorBlock);
+		}
+		bSectionNeedsToBeApplied = false;
 	}
 }

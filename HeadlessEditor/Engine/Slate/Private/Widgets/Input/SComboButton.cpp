@@ -21,6 +21,7 @@ void SComboButton::Construct(const FArguments& InArgs)
 
 	// A button holding the content, with the down arrow (and its shadow) at its right.
 	SMenuAnchor::Construct(SMenuAnchor::FArguments()
+							   .Placement(InArgs._MenuPlacement)
 							   .OnMenuOpenChanged(InArgs._OnMenuOpenChanged)
 							   .OnGetMenuContent(InArgs._OnGetMenuContent)
 								   [SNew(SButton)

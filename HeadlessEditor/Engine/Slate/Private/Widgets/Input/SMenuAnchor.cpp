@@ -34,6 +34,7 @@ void SMenuAnchor::Construct(const FArguments& InArgs)
 	WrappedContent = InArgs._MenuContent;
 	OnGetMenuContent = InArgs._OnGetMenuContent;
 	OnMenuOpenChanged = InArgs._OnMenuOpenChanged;
+	Placement = InArgs._Placement;
 }
 
 void SMenuAnchor::SetContent(TSharedRef<SWidget> InContent)

@@ -5,8 +5,9 @@
 #include "Widgets/Notifications/SNotificationList.h"
 
 /**
- * The notification widget the manager shows: image, text, sub-text and buttons. Time is the
- * notification manager's clock; fades take no drawing here, only their duration.
+ * The notification widget the manager shows: a rounded card with the image (and a spinner while
+ * pending), the text, sub-text, hyperlink and buttons. Time is the notification manager's clock;
+ * fades take no drawing here, only their duration, so a card is drawn as it is once faded in.
  */
 class SNotificationItemImpl : public SNotificationItem
 {
@@ -35,7 +36,7 @@ public:
 
 	const TArray<FNotificationButtonInfo>& GetButtons() const { return Buttons; }
 	bool IsFireAndForget() const { return bFireAndForget; }
-	float GetWidthOverride() const { return WidthOverride; }
+	float GetWidthOverride() const { return WidthOverride.Get(); }
 	const FSlateBrush* GetImage() const { return Image; }
 
 private:
@@ -47,6 +48,15 @@ private:
 		Gone,
 	};
 
+	TSharedRef<SWidget> MakeIcon(const FNotificationInfo& InInfo);
+	TSharedRef<SWidget> MakeInteractiveWidgets();
+	FMargin GetIconPadding() const;
+	EVisibility GetThrobberVisibility() const;
+	const FSlateBrush* GetNotificationIcon() const;
+	EVisibility GetSubTextVisibility() const;
+	EVisibility GetHyperlinkVisibility() const;
+	FText GetHyperlinkText() const { return HyperlinkText.Get(FText::GetEmpty()); }
+	void OnHyperlinkClicked() const;
 	FText GetText() const { return Text.Get(FText::GetEmpty()); }
 	FText GetSubText() const { return SubText.Get(FText::GetEmpty()); }
 	EVisibility GetButtonVisibility(int32 ButtonIndex) const;
@@ -57,7 +67,7 @@ private:
 	TAttribute<FText> HyperlinkText;
 	TArray<FNotificationButtonInfo> Buttons;
 	const FSlateBrush* Image = nullptr;
-	float WidthOverride = 0.0f;
+	FOptionalSize WidthOverride;
 	float FadeInDuration = 0.0f;
 	float FadeOutDuration = 0.0f;
 	float ExpireDuration = 0.0f;

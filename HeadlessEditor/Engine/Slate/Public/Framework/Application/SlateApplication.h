@@ -45,6 +45,7 @@ public:
 
 	virtual TSharedRef<IToolTip> MakeToolTip(const TAttribute<FText>& ToolTipText) override;
 	virtual TSharedRef<IToolTip> MakeToolTip(const FText& ToolTipText) override;
+	virtual TSharedRef<SWidget> MakeWindowTitleBar(const FWindowTitleBarArgs& InArgs, TSharedPtr<IWindowTitleBar>& OutTitleBar) const override;
 
 private:
 	FSlateApplication() = default;

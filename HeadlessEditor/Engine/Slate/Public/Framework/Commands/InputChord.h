@@ -12,6 +12,9 @@ struct SLATE_API FInputChord
 	/** Whether a key is set: an empty chord is no shortcut at all. */
 	bool IsValidChord() const;
 
+	/** The chord as menus show it, e.g. "Ctrl+Shift+S"; empty when no key is set. */
+	FText GetInputText(const bool bLongDisplayName = true) const;
+
 	bool operator==(const FInputChord& Other) const;
 	bool operator!=(const FInputChord& Other) const { return !(*this == Other); }
 

@@ -8,9 +8,13 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+class FLinkedBoxManager;
 class FMultiBox;
+class IMultiBlockBaseWidget;
 class ISlateStyle;
+class SHorizontalBox;
 class SMultiBoxWidget;
+class SVerticalBox;
 
 /** One element of a menu or toolbar: an entry, a heading, a separator. */
 class SLATE_API FMultiBlock : public TSharedFromThis<FMultiBlock>
@@ -27,16 +31,36 @@ public:
 	const EMultiBlockType GetType() const { return Type; }
 	bool IsPartOfHeading() const { return bIsPartOfHeading; }
 
+	/** Whether the block shows an icon; a section whose blocks have icons keeps a column for them. */
+	virtual bool HasIcon() const { return false; }
+
 	void SetTutorialHighlightName(FName InTutorialName) { TutorialHighlightName = InTutorialName; }
 	FName GetTutorialHighlightName() const { return TutorialHighlightName; }
 
+	/** The style this block is drawn with in place of its multi-box's. */
+	void SetStyleNameOverride(FName InStyleNameOverride) { StyleNameOverride = InStyleNameOverride; }
+	FName GetStyleNameOverride() const { return StyleNameOverride; }
+
+	bool IsSeparator() const { return Type == EMultiBlockType::Separator; }
+
+protected:
+	/** Makes the widget type that shows this kind of block. */
+	virtual TSharedRef<IMultiBlockBaseWidget> ConstructWidget() const = 0;
+
 private:
+	// The multi-box widget makes the widgets of its blocks.
+	friend class SMultiBoxWidget;
+
+	/** Makes the block's widget for its multi-box widget and builds it in the block's style. */
+	TSharedRef<IMultiBlockBaseWidget> MakeWidget(TSharedRef<SMultiBoxWidget> InOwnerMultiBoxWidget, EMultiBlockLocation::Type InLocation, bool bSectionContainsIcons, TSharedPtr<SWidget> OptionsBlockWidget) const;
+
 	TSharedPtr<const FUICommandInfo> CommandInfo;
 	TSharedPtr<const FUICommandList> ActionList;
 	FUIAction Action;
 	FName ExtensionHook;
 	EMultiBlockType Type;
 	FName TutorialHighlightName;
+	FName StyleNameOverride;
 	bool bIsPartOfHeading;
 };
 
@@ -68,11 +92,52 @@ private:
 	FMultiBox(const EMultiBoxType InType, FMultiBoxCustomization InCustomization, const bool bInShouldCloseWindowAfterMenuSelection);
 
 	TArray<TSharedRef<const FMultiBlock>> Blocks;
-	const ISlateStyle* StyleSet = nullptr;
+	const ISlateStyle* StyleSet;
 	FName StyleName;
 	EMultiBoxType Type;
 	FMultiBoxCustomization Customization;
 	bool bShouldCloseWindowAfterMenuSelection;
+};
+
+/** The widget of one block, as its multi-box widget places it. */
+class SLATE_API IMultiBlockBaseWidget
+{
+public:
+	virtual ~IMultiBlockBaseWidget() {}
+
+	virtual TSharedRef<SWidget> AsWidget() = 0;
+	virtual TSharedRef<const SWidget> AsWidget() const = 0;
+	virtual void SetOwnerMultiBoxWidget(TSharedRef<SMultiBoxWidget> InOwnerMultiBoxWidget) = 0;
+	virtual void SetMultiBlock(TSharedRef<const FMultiBlock> InMultiBlock) = 0;
+	virtual void SetOptionsBlockWidget(TSharedPtr<SWidget> InOptionsBlockWidget) = 0;
+	/** Builds the block's widgets in the style's look. */
+	virtual void BuildMultiBlockWidget(const ISlateStyle* StyleSet, const FName& StyleName) = 0;
+	virtual void SetMultiBlockLocation(EMultiBlockLocation::Type InLocation, bool bSectionContainsIcons) = 0;
+	virtual EMultiBlockLocation::Type GetMultiBlockLocation() = 0;
+	virtual bool IsInEditMode() const = 0;
+};
+
+/** The base of the block widgets: knows its multi-box widget, its block and where it sits. */
+class SLATE_API SMultiBlockBaseWidget : public IMultiBlockBaseWidget, public SCompoundWidget
+{
+public:
+	TSharedPtr<const FMultiBlock> GetBlock() const { return MultiBlock; }
+
+	virtual TSharedRef<SWidget> AsWidget() override;
+	virtual TSharedRef<const SWidget> AsWidget() const override;
+	virtual void SetOwnerMultiBoxWidget(TSharedRef<SMultiBoxWidget> InOwnerMultiBoxWidget) override;
+	virtual void SetMultiBlock(TSharedRef<const FMultiBlock> InMultiBlock) override;
+	virtual void SetOptionsBlockWidget(TSharedPtr<SWidget> InOptionsBlock) override;
+	virtual void SetMultiBlockLocation(EMultiBlockLocation::Type InLocation, bool bInSectionContainsIcons) override;
+	virtual EMultiBlockLocation::Type GetMultiBlockLocation() override;
+	virtual bool IsInEditMode() const override;
+
+protected:
+	TWeakPtr<SMultiBoxWidget> OwnerMultiBoxWidget;
+	TSharedPtr<const FMultiBlock> MultiBlock;
+	TSharedPtr<SWidget> OptionsBlockWidget;
+	EMultiBlockLocation::Type Location = EMultiBlockLocation::None;
+	bool bSectionContainsIcons = false;
 };
 
 /** The widget of a menu or toolbar. */
@@ -99,8 +164,18 @@ public:
 		/** Builds this MultiBox widget up from the MultiBox associated with it */
 		void BuildMultiBoxWidget();
 
+		/** Lines up the check box columns of the menu's entries. */
+		TSharedRef<FLinkedBoxManager> GetLinkedBoxManager() { return LinkedBoxManager.ToSharedRef(); }
+
+		const ISlateStyle* GetStyleSet() const { return MultiBox->GetStyleSet(); }
+		const FName& GetStyleName() const { return MultiBox->GetStyleName(); }
+
 	private:
+		/** Adds a block's widget to the box, as a row of a menu or a cell of a toolbar. */
+		void AddBlockWidget(const FMultiBlock& Block, TSharedPtr<SHorizontalBox> HorizontalBox, TSharedPtr<SVerticalBox> VerticalBox, EMultiBlockLocation::Type InLocation, bool bSectionContainsIcons);
+
 		TSharedPtr<FMultiBox> MultiBox;
+		TSharedPtr<FLinkedBoxManager> LinkedBoxManager;
 		TAttribute<float> MaxHeight;
 		bool bSearchable = false;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Styling/ISlateStyle.h"
 
 /** The kinds of multi-box: menus, menu bars and toolbars. */
 enum class EMultiBoxType : uint8
@@ -29,6 +30,38 @@ enum class EMultiBlockType : uint8
 	ToolBarComboButton,
 	Widget,
 };
+
+/** Where a block sits in a group of blocks drawn as one, such as a row of toolbar buttons. */
+namespace EMultiBlockLocation
+{
+	enum Type
+	{
+		/** Default, either no other blocks in group or grouping style is disabled */
+		None = -1,
+		/** Denotes the beginning of a group, currently left most first */
+		Start,
+		/** Denotes a middle block(s) of a group */
+		Middle,
+		/** Denotes the end of a group, currently the right most */
+		End,
+	};
+
+	/** returns the passed in style with the addition of the location information */
+	static FName ToName(FName StyleName, Type InLocation)
+	{
+		switch (InLocation)
+		{
+			case Start:
+				return ISlateStyle::Join(StyleName, ".Start");
+			case Middle:
+				return ISlateStyle::Join(StyleName, ".Middle");
+			case End:
+				return ISlateStyle::Join(StyleName, ".End");
+			default:
+				return StyleName;
+		}
+	}
+}
 
 /** Names a multi-box whose layout the user may customize, so that the customization can be saved. */
 struct SLATE_API FMultiBoxCustomization

@@ -28,6 +28,7 @@ public:
 		, _ButtonColorAndOpacity(FLinearColor::White)
 		, _HAlign(HAlign_Fill)
 		, _VAlign(VAlign_Center)
+		, _MenuPlacement(MenuPlacement_ComboBox)
 		{
 		}
 		SLATE_STYLE_ARGUMENT(FComboButtonStyle, ComboButtonStyle)
@@ -53,6 +54,8 @@ public:
 		SLATE_ARGUMENT(EHorizontalAlignment, HAlign)
 		/** Vertical alignment */
 		SLATE_ARGUMENT(EVerticalAlignment, VAlign)
+		/** Where the menu opens relative to the button */
+		SLATE_ATTRIBUTE(EMenuPlacement, MenuPlacement)
 		SLATE_END_ARGS()
 
 		// SMenuAnchor interface

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Framework/SlateDelegates.h"
 #include "Layout/Children.h"
+#include "Types/SlateEnums.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SPanel.h"
 
@@ -19,6 +20,7 @@ public:
 		: _Content()
 		, _Padding(FMargin(0.0f))
 		, _OnGetMenuContent()
+		, _Placement(MenuPlacement_BelowAnchor)
 		{
 		}
 		SLATE_DEFAULT_SLOT(FArguments, Content)
@@ -29,6 +31,8 @@ public:
 		SLATE_EVENT(FOnGetContent, OnGetMenuContent)
 		/** Called when the menu is opened or closed */
 		SLATE_EVENT(FOnIsOpenChanged, OnMenuOpenChanged)
+		/** Where the menu opens relative to the anchor */
+		SLATE_ATTRIBUTE(EMenuPlacement, Placement)
 		SLATE_END_ARGS()
 
 		virtual ~SMenuAnchor();
@@ -47,6 +51,9 @@ public:
 
 		/** See MenuContent attribute */
 		virtual void SetMenuContent(TSharedRef<SWidget> InMenuContent);
+
+		/** See Placement attribute */
+		void SetMenuPlacement(TAttribute<EMenuPlacement> InMenuPlacement) { Placement = InMenuPlacement; }
 
 		/**
 		 * Open or close the popup
@@ -79,6 +86,9 @@ public:
 
 		/** Callback invoked when the popup is being opened/closed */
 		FOnIsOpenChanged OnMenuOpenChanged;
+
+		/** Where the menu opens relative to the anchor */
+		TAttribute<EMenuPlacement> Placement;
 
 		/** The anchor's content, and the slot a menu shown in the anchor's own window would use. */
 		TPanelChildren<FBasicLayoutWidgetSlot> Children;
