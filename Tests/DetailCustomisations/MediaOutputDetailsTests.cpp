@@ -53,7 +53,7 @@ namespace
 		TArray<ELogVerbosity::Type> Verbosities;
 	};
 
-	class MediaOutputDetailsTests : public ::testing::Test
+	class MediaOutputDetails : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -133,7 +133,7 @@ namespace
 	};
 }
 
-TEST_F(MediaOutputDetailsTests, StateRowsAreHiddenAndTheControlsGroupStartsExpandedInTheSimpleSection)
+TEST_F(MediaOutputDetails, StateRowsAreHiddenAndTheControlsGroupStartsExpandedInTheSimpleSection)
 {
 	Show({SpawnOutput()});
 
@@ -154,7 +154,7 @@ TEST_F(MediaOutputDetailsTests, StateRowsAreHiddenAndTheControlsGroupStartsExpan
 	EXPECT_TRUE(FWidgetDriver::FindWidget(GetRowContents()[1], TEXT("SButton"), FString(TEXT("Stop"))).IsValid());
 }
 
-TEST_F(MediaOutputDetailsTests, HardwareEncoderRowAppearsOnlyWhenTheRuntimeDoesNotSuggestThePlugin)
+TEST_F(MediaOutputDetails, HardwareEncoderRowAppearsOnlyWhenTheRuntimeDoesNotSuggestThePlugin)
 {
 	HeadlessRuntime::SetSuggestLoadingHardwareEncodersPlugin(false);
 	Show({SpawnOutput()});
@@ -177,7 +177,7 @@ TEST_F(MediaOutputDetailsTests, HardwareEncoderRowAppearsOnlyWhenTheRuntimeDoesN
 	EXPECT_TRUE(UE::Headless::GetExcerptName(*DocToolTip).Equals(TEXT("HardwareEncoders")));
 }
 
-TEST_F(MediaOutputDetailsTests, StartAndStopEnablingFollowsTheOutputLive)
+TEST_F(MediaOutputDetails, StartAndStopEnablingFollowsTheOutputLive)
 {
 	AKyroMediaOutput* Output = SpawnOutput();
 	Show({Output});
@@ -191,7 +191,7 @@ TEST_F(MediaOutputDetailsTests, StartAndStopEnablingFollowsTheOutputLive)
 	EXPECT_TRUE(FWidgetDriver::IsEffectivelyEnabled(Stop));
 }
 
-TEST_F(MediaOutputDetailsTests, StartAndStopDriveTheOutputInATransactionWithScriptsAllowed)
+TEST_F(MediaOutputDetails, StartAndStopDriveTheOutputInATransactionWithScriptsAllowed)
 {
 	AKyroMediaOutput* Output = SpawnOutput();
 	Show({Output});
@@ -220,7 +220,7 @@ TEST_F(MediaOutputDetailsTests, StartAndStopDriveTheOutputInATransactionWithScri
 	EXPECT_TRUE(FTextInspector::GetNamespace(StopTitle).Get(FString()).Equals(TEXT("MediaOutputDetailsCustomisation")));
 }
 
-TEST_F(MediaOutputDetailsTests, DurationShowsTheRunningTimeAsATimeSpan)
+TEST_F(MediaOutputDetails, DurationShowsTheRunningTimeAsATimeSpan)
 {
 	AKyroMediaOutput* Output = SpawnOutput();
 	Show({Output});
@@ -231,7 +231,7 @@ TEST_F(MediaOutputDetailsTests, DurationShowsTheRunningTimeAsATimeSpan)
 	EXPECT_TRUE(GetDurationText().Equals(TEXT("+00:01:01.001")));
 }
 
-TEST_F(MediaOutputDetailsTests, DurationsBeyondTheSignedRangeAreReadAsUnsigned)
+TEST_F(MediaOutputDetails, DurationsBeyondTheSignedRangeAreReadAsUnsigned)
 {
 	AKyroMediaOutput* Output = SpawnOutput();
 	Show({Output});
@@ -240,7 +240,7 @@ TEST_F(MediaOutputDetailsTests, DurationsBeyondTheSignedRangeAreReadAsUnsigned)
 	EXPECT_TRUE(GetDurationText().Equals(TEXT("-10675199.02:48:05.477")));
 }
 
-TEST_F(MediaOutputDetailsTests, WithSeveralOutputsSelectedOnlyTheFirstIsDriven)
+TEST_F(MediaOutputDetails, WithSeveralOutputsSelectedOnlyTheFirstIsDriven)
 {
 	AKyroMediaOutput* First = SpawnOutput();
 	AKyroMediaOutput* Second = SpawnOutput();
@@ -251,7 +251,7 @@ TEST_F(MediaOutputDetailsTests, WithSeveralOutputsSelectedOnlyTheFirstIsDriven)
 	EXPECT_FALSE(Second->HasStarted);
 }
 
-TEST_F(MediaOutputDetailsTests, AGoneOutputLogsAWarningAndOpensNoTransaction)
+TEST_F(MediaOutputDetails, AGoneOutputLogsAWarningAndOpensNoTransaction)
 {
 	AKyroMediaOutput* Output = SpawnOutput();
 	Show({Output});
@@ -271,7 +271,7 @@ TEST_F(MediaOutputDetailsTests, AGoneOutputLogsAWarningAndOpensNoTransaction)
 	EXPECT_TRUE(HeadlessRuntime::GetMediaOutputCalls().IsEmpty());
 }
 
-TEST_F(MediaOutputDetailsTests, EnablingHardwareEncodersSavesTheProjectAndAsksForARestart)
+TEST_F(MediaOutputDetails, EnablingHardwareEncodersSavesTheProjectAndAsksForARestart)
 {
 	HeadlessRuntime::SetSuggestLoadingHardwareEncodersPlugin(false);
 	Show({SpawnOutput()});
@@ -290,7 +290,7 @@ TEST_F(MediaOutputDetailsTests, EnablingHardwareEncodersSavesTheProjectAndAsksFo
 	EXPECT_FALSE(FWidgetDriver::IsShown(Hint));
 }
 
-TEST_F(MediaOutputDetailsTests, AFailedEnableShowsTheReasonAndStillAsksForARestart)
+TEST_F(MediaOutputDetails, AFailedEnableShowsTheReasonAndStillAsksForARestart)
 {
 	HeadlessRuntime::SetSuggestLoadingHardwareEncodersPlugin(false);
 	UE::Headless::GetProjectManagerState().PluginEnableFailure = FText::FromString(TEXT("Plugin not found"));
@@ -306,7 +306,7 @@ TEST_F(MediaOutputDetailsTests, AFailedEnableShowsTheReasonAndStillAsksForAResta
 	EXPECT_TRUE(FWidgetDriver::FindWidget(GetRowContents()[0], TEXT("SButton"), FString(TEXT("Restart required to take effect..."))).IsValid());
 }
 
-TEST_F(MediaOutputDetailsTests, AFailedSaveShowsTheSaveFailure)
+TEST_F(MediaOutputDetails, AFailedSaveShowsTheSaveFailure)
 {
 	HeadlessRuntime::SetSuggestLoadingHardwareEncodersPlugin(false);
 	UE::Headless::GetProjectManagerState().SaveFailure = FText::FromString(TEXT("Project file is read-only"));

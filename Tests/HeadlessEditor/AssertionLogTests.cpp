@@ -41,7 +41,7 @@ namespace
 	}
 }
 
-TEST(LogCategories, LinesBeyondTheCategoryVerbosityAreDropped)
+TEST(AssertionLog, LinesBeyondTheCategoryVerbosityAreDropped)
 {
 	FLogCapture Capture;
 	UE_LOG(LogQuietTest, Log, TEXT("hidden %d"), 1);
@@ -59,7 +59,7 @@ TEST(LogCategories, LinesBeyondTheCategoryVerbosityAreDropped)
 	EXPECT_EQ(LogQuietTest.GetVerbosity(), ELogVerbosity::Warning);
 }
 
-TEST(LogCategories, CompileTimeVerbosityCapsTheCategory)
+TEST(AssertionLog, CompileTimeVerbosityCapsTheCategory)
 {
 	FLogCapture Capture;
 	UE_LOG(LogCappedTest, Display, TEXT("kept"));
@@ -68,7 +68,7 @@ TEST(LogCategories, CompileTimeVerbosityCapsTheCategory)
 	EXPECT_TRUE(Capture.Lines[0].Text.Equals(TEXT("kept")));
 }
 
-TEST(LogCategories, RemovedOutputDevicesHearNothingMore)
+TEST(AssertionLog, RemovedOutputDevicesHearNothingMore)
 {
 	FLogCapture Kept;
 	{
@@ -80,14 +80,14 @@ TEST(LogCategories, RemovedOutputDevicesHearNothingMore)
 	EXPECT_EQ(Kept.Lines.Num(), 2);
 }
 
-TEST(LogCategories, VerbosityNamesMatchTheEngine)
+TEST(AssertionLog, VerbosityNamesMatchTheEngine)
 {
 	EXPECT_TRUE(FString(ToString(ELogVerbosity::Warning)).Equals(TEXT("Warning"), ESearchCase::CaseSensitive));
 	EXPECT_TRUE(FString(ToString(ELogVerbosity::VeryVerbose)).Equals(TEXT("VeryVerbose"), ESearchCase::CaseSensitive));
 	EXPECT_TRUE(FString(ToString(ELogVerbosity::Type(ELogVerbosity::Error | ELogVerbosity::BreakOnLog))).Equals(TEXT("Error")));
 }
 
-TEST(Ensures, AFailedEnsureReportsOncePerSiteAndYieldsFalse)
+TEST(AssertionLog, AFailedEnsureReportsOncePerSiteAndYieldsFalse)
 {
 	FLogCapture Capture;
 	EXPECT_FALSE(FailEnsureAtOneSite());
@@ -98,7 +98,7 @@ TEST(Ensures, AFailedEnsureReportsOncePerSiteAndYieldsFalse)
 	EXPECT_EQ(Capture.Lines[0].Verbosity, ELogVerbosity::Error);
 }
 
-TEST(Ensures, EnsureAlwaysReportsEveryTime)
+TEST(AssertionLog, EnsureAlwaysReportsEveryTime)
 {
 	FLogCapture Capture;
 	EXPECT_FALSE(FailEnsureAlwaysAtOneSite());
@@ -106,7 +106,7 @@ TEST(Ensures, EnsureAlwaysReportsEveryTime)
 	EXPECT_EQ(Capture.Lines.Num(), 2);
 }
 
-TEST(Ensures, APassingEnsureYieldsTrueAndReportsNothing)
+TEST(AssertionLog, APassingEnsureYieldsTrueAndReportsNothing)
 {
 	FLogCapture Capture;
 	int32 Evaluations = 0;
@@ -116,7 +116,7 @@ TEST(Ensures, APassingEnsureYieldsTrueAndReportsNothing)
 	EXPECT_TRUE(Capture.Lines.IsEmpty());
 }
 
-TEST(Ensures, EnsureMsgfReportsItsMessageAfterTheCondition)
+TEST(AssertionLog, EnsureMsgfReportsItsMessageAfterTheCondition)
 {
 	FLogCapture Capture;
 	const int32 Count = 7;
@@ -126,25 +126,25 @@ TEST(Ensures, EnsureMsgfReportsItsMessageAfterTheCondition)
 	EXPECT_TRUE(Capture.Lines[0].Text.EndsWith(TEXT("\nToo many outputs: 7"), ESearchCase::CaseSensitive));
 }
 
-TEST(ChecksDeathTest, CheckNamesTheFailedExpression)
+TEST(AssertionLogDeathTest, CheckNamesTheFailedExpression)
 {
 	const int32 Outputs = 2;
 	EXPECT_DEATH(check(Outputs > 3), "Assertion failed: Outputs > 3");
 }
 
-TEST(ChecksDeathTest, CheckfAddsItsFormattedMessage)
+TEST(AssertionLogDeathTest, CheckfAddsItsFormattedMessage)
 {
 	const int32 Outputs = 2;
 	EXPECT_DEATH(checkf(Outputs > 3, TEXT("Need %d more outputs for %s"), 4 - Outputs, TEXT("NDI")), "Assertion failed: Outputs > 3.*Need 2 more outputs for NDI");
 }
 
-TEST(ChecksDeathTest, CheckNoEntryAndFatalLogsStopTheProcess)
+TEST(AssertionLogDeathTest, CheckNoEntryAndFatalLogsStopTheProcess)
 {
 	EXPECT_DEATH(checkNoEntry(), "Assertion failed");
 	EXPECT_DEATH(UE_LOG(LogChattyTest, Fatal, TEXT("fatal line")), "");
 }
 
-TEST(Checks, APassingCheckEvaluatesItsExpressionOnce)
+TEST(AssertionLog, APassingCheckEvaluatesItsExpressionOnce)
 {
 	int32 Evaluations = 0;
 	check(++Evaluations == 1);

@@ -58,7 +58,7 @@ namespace
 	};
 }
 
-TEST(TArrayIndexing, LastAndTopReadFromTheEnd)
+TEST(CoreContainer, TArrayLastAndTopReadFromTheEnd)
 {
 	TArray<int32> Values{1, 2, 3};
 	EXPECT_EQ(Values.Last(), 3);
@@ -68,7 +68,7 @@ TEST(TArrayIndexing, LastAndTopReadFromTheEnd)
 	EXPECT_EQ(Values.Num(), 2);
 }
 
-TEST(TArrayDeathTest, OutOfRangeIndexingIsFatalWithTheEnginesMessage)
+TEST(CoreContainerDeathTest, TArrayOutOfRangeIndexingIsFatalWithTheEnginesMessage)
 {
 	TArray<int32> Values{1, 2, 3};
 	EXPECT_DEATH((void)Values[3], "Array index out of bounds: 3 from an array of size 3");
@@ -78,7 +78,7 @@ TEST(TArrayDeathTest, OutOfRangeIndexingIsFatalWithTheEnginesMessage)
 	EXPECT_DEATH((void)Empty.Pop(), "Array index out of bounds: 0 from an array of size 0");
 }
 
-TEST(TArrayDeathTest, RemoveAtAndInsertOutsideTheArrayAreFatal)
+TEST(CoreContainerDeathTest, TArrayRemoveAtAndInsertOutsideTheArrayAreFatal)
 {
 	TArray<int32> Values{1, 2, 3};
 	EXPECT_DEATH(Values.RemoveAt(2, 2), "Assertion failed");
@@ -87,7 +87,7 @@ TEST(TArrayDeathTest, RemoveAtAndInsertOutsideTheArrayAreFatal)
 	EXPECT_DEATH(Values.Insert(9, -1), "Assertion failed");
 }
 
-TEST(TArrayEditing, InsertAtTheEndAndRemoveAtKeepOrder)
+TEST(CoreContainer, TArrayInsertAtTheEndAndRemoveAtKeepOrder)
 {
 	TArray<int32> Values{1, 2, 3};
 	EXPECT_EQ(Values.Insert(4, 3), 3);
@@ -99,7 +99,7 @@ TEST(TArrayEditing, InsertAtTheEndAndRemoveAtKeepOrder)
 	EXPECT_EQ(Values.Num(), 3);
 }
 
-TEST(TArrayEditing, RemoveAtSwapFillsTheHoleFromTheEnd)
+TEST(CoreContainer, TArrayRemoveAtSwapFillsTheHoleFromTheEnd)
 {
 	TArray<int32> Values = MakeSequence(7);
 	Values.RemoveAtSwap(1);
@@ -113,7 +113,7 @@ TEST(TArrayEditing, RemoveAtSwapFillsTheHoleFromTheEnd)
 	EXPECT_EQ(Values, (TArray<int32>{0}));
 }
 
-TEST(TArrayEditing, AddUniqueFindsEqualElementsWithTheirOwnEquality)
+TEST(CoreContainer, TArrayAddUniqueFindsEqualElementsWithTheirOwnEquality)
 {
 	TArray<FString> Names;
 	EXPECT_EQ(Names.AddUnique(TEXT("Spout")), 0);
@@ -124,7 +124,7 @@ TEST(TArrayEditing, AddUniqueFindsEqualElementsWithTheirOwnEquality)
 	EXPECT_TRUE(Names[0].Equals(TEXT("Spout"), ESearchCase::CaseSensitive));
 }
 
-TEST(TArrayEditing, RemoveCountsEveryEqualElementAndRemoveSingleOnlyTheFirst)
+TEST(CoreContainer, TArrayRemoveCountsEveryEqualElementAndRemoveSingleOnlyTheFirst)
 {
 	TArray<int32> Values{1, 2, 1, 3, 1};
 	EXPECT_EQ(Values.RemoveSingle(1), 1);
@@ -134,7 +134,7 @@ TEST(TArrayEditing, RemoveCountsEveryEqualElementAndRemoveSingleOnlyTheFirst)
 	EXPECT_EQ(Values.Remove(7), 0);
 }
 
-TEST(TArraySearch, FindReturnsTheFirstIndexOrIndexNone)
+TEST(CoreContainer, TArrayFindReturnsTheFirstIndexOrIndexNone)
 {
 	const TArray<FName> Names{FName(TEXT("A")), FName(TEXT("B")), FName(TEXT("a"))};
 	EXPECT_EQ(Names.Find(FName(TEXT("a"))), 0);
@@ -151,7 +151,7 @@ TEST(TArraySearch, FindReturnsTheFirstIndexOrIndexNone)
 		{ return Name.ToString().Equals(TEXT("a"), ESearchCase::CaseSensitive); }));
 }
 
-TEST(TArraySorting, SortOfPointersComparesWhatTheyPointAt)
+TEST(CoreContainer, TArraySortOfPointersComparesWhatTheyPointAt)
 {
 	FOutput High{TEXT("High"), 3};
 	FOutput Low{TEXT("Low"), 1};
@@ -166,7 +166,7 @@ TEST(TArraySorting, SortOfPointersComparesWhatTheyPointAt)
 	EXPECT_EQ(Outputs[0], &High);
 }
 
-TEST(TArraySorting, StableSortKeepsTheOrderOfEqualElements)
+TEST(CoreContainer, TArrayStableSortKeepsTheOrderOfEqualElements)
 {
 	TArray<FOutput> Outputs{{TEXT("b"), 1}, {TEXT("a"), 0}, {TEXT("c"), 1}, {TEXT("d"), 0}, {TEXT("e"), 1}};
 	Outputs.StableSort();
@@ -178,14 +178,14 @@ TEST(TArraySorting, StableSortKeepsTheOrderOfEqualElements)
 	EXPECT_TRUE(Order.Equals(TEXT("adbce"), ESearchCase::CaseSensitive));
 }
 
-TEST(TArraySorting, SortOfFStringsIgnoresCase)
+TEST(CoreContainer, TArraySortOfFStringsIgnoresCase)
 {
 	TArray<FString> Names{TEXT("beta"), TEXT("Alpha"), TEXT("alpha2"), TEXT("Gamma")};
 	Names.Sort();
 	EXPECT_TRUE(FString::Join(Names, TEXT(" ")).Equals(TEXT("Alpha alpha2 beta Gamma"), ESearchCase::CaseSensitive));
 }
 
-TEST(TMapBehaviour, KeysCompareAsTheirTypeDoes)
+TEST(CoreContainer, TMapKeysCompareAsTheirTypeDoes)
 {
 	TMap<FString, int32> ByName;
 	ByName.Add(TEXT("Spout"), 1);
@@ -196,7 +196,7 @@ TEST(TMapBehaviour, KeysCompareAsTheirTypeDoes)
 	EXPECT_EQ(ByName.Num(), 2);
 }
 
-TEST(TMapBehaviour, AddingAnEqualKeyReplacesKeyAndValueInPlace)
+TEST(CoreContainer, TMapAddingAnEqualKeyReplacesKeyAndValueInPlace)
 {
 	TMap<FString, int32> ByName;
 	ByName.Add(TEXT("first"), 1);
@@ -206,7 +206,7 @@ TEST(TMapBehaviour, AddingAnEqualKeyReplacesKeyAndValueInPlace)
 	EXPECT_TRUE(DescribeMap(ByName).Equals(TEXT("FIRST=10,second=2"), ESearchCase::CaseSensitive));
 }
 
-TEST(TMapBehaviour, AnAdditionAfterARemovalTakesTheFreedPlace)
+TEST(CoreContainer, TMapAnAdditionAfterARemovalTakesTheFreedPlace)
 {
 	TMap<FName, int32> Map;
 	Map.Add(TEXT("A"), 1);
@@ -227,7 +227,7 @@ TEST(TMapBehaviour, AnAdditionAfterARemovalTakesTheFreedPlace)
 	EXPECT_EQ(Keys[1], FName(TEXT("F")));
 }
 
-TEST(TMapBehaviour, EmptyForgetsFreedPlaces)
+TEST(CoreContainer, TMapEmptyForgetsFreedPlaces)
 {
 	TMap<int32, int32> Map;
 	Map.Add(1, 1);
@@ -240,13 +240,13 @@ TEST(TMapBehaviour, EmptyForgetsFreedPlaces)
 	EXPECT_TRUE(DescribeMap(Map).Equals(TEXT("3=3,4=4")));
 }
 
-TEST(TMapDeathTest, FindCheckedOfAMissingKeyIsFatal)
+TEST(CoreContainerDeathTest, TMapFindCheckedOfAMissingKeyIsFatal)
 {
 	TMap<FName, int32> Map;
 	EXPECT_DEATH((void)Map.FindChecked(TEXT("Missing")), "Assertion failed");
 }
 
-TEST(TOptionalBehaviour, SetUnsetAndDefaults)
+TEST(CoreContainer, TOptionalSetUnsetAndDefaults)
 {
 	TOptional<int32> Value;
 	EXPECT_FALSE(Value.IsSet());
@@ -262,13 +262,13 @@ TEST(TOptionalBehaviour, SetUnsetAndDefaults)
 	EXPECT_EQ(Value.Emplace(5), 5);
 }
 
-TEST(TOptionalDeathTest, GetValueOfAnUnsetOptionalIsFatal)
+TEST(CoreContainerDeathTest, TOptionalGetValueOfAnUnsetOptionalIsFatal)
 {
 	const TOptional<int32> Unset;
 	EXPECT_DEATH((void)Unset.GetValue(), "It is an error to call GetValue\\(\\) on an unset TOptional");
 }
 
-TEST(SharedPointers, CountsFollowCopiesAndResets)
+TEST(CoreContainer, SharedPointersCountsFollowCopiesAndResets)
 {
 	TSharedPtr<FCounter> First = MakeShared<FCounter>();
 	EXPECT_TRUE(First.IsUnique());
@@ -280,7 +280,7 @@ TEST(SharedPointers, CountsFollowCopiesAndResets)
 	EXPECT_FALSE(Second.IsValid());
 }
 
-TEST(SharedPointers, WeakPointersGoStaleWhenTheLastOwnerLetsGo)
+TEST(CoreContainer, SharedPointersWeakPointersGoStaleWhenTheLastOwnerLetsGo)
 {
 	TSharedPtr<FCounter> Owner = MakeShared<FCounter>();
 	const TWeakPtr<FCounter> Weak = Owner;
@@ -295,7 +295,7 @@ TEST(SharedPointers, WeakPointersGoStaleWhenTheLastOwnerLetsGo)
 	EXPECT_FALSE(Weak.Pin().IsValid());
 }
 
-TEST(SharedPointers, SharedThisSharesTheOwningCount)
+TEST(CoreContainer, SharedPointersSharedThisSharesTheOwningCount)
 {
 	const TSharedRef<FCounter> Owner = MakeShared<FCounter>();
 	const TSharedRef<FCounter> Again = Owner->Self();
@@ -305,13 +305,13 @@ TEST(SharedPointers, SharedThisSharesTheOwningCount)
 	EXPECT_EQ(FromShareable->AsShared().GetSharedReferenceCount(), 2);
 }
 
-TEST(SharedPointersDeathTest, ToSharedRefOfANullPointerIsFatal)
+TEST(CoreContainerDeathTest, ToSharedRefOfANullPointerIsFatal)
 {
 	const TSharedPtr<FCounter> Null;
 	EXPECT_DEATH((void)Null.ToSharedRef(), "Assertion failed: IsValid\\(\\)");
 }
 
-TEST(TAttributeBehaviour, UnsetAttributesYieldTheDefault)
+TEST(CoreContainer, TAttributeUnsetAttributesYieldTheDefault)
 {
 	const TAttribute<int32> Unset;
 	EXPECT_FALSE(Unset.IsSet());
@@ -324,7 +324,7 @@ TEST(TAttributeBehaviour, UnsetAttributesYieldTheDefault)
 	EXPECT_EQ(Constant.Get(4), 9);
 }
 
-TEST(TAttributeBehaviour, BoundGettersRunOnEveryRead)
+TEST(CoreContainer, TAttributeBoundGettersRunOnEveryRead)
 {
 	int32 Calls = 0;
 	const TAttribute<int32> Bound = TAttribute<int32>::CreateLambda([&Calls]()
@@ -337,7 +337,7 @@ TEST(TAttributeBehaviour, BoundGettersRunOnEveryRead)
 	EXPECT_EQ(Calls, 3);
 }
 
-TEST(TAttributeBehaviour, SettingAValueDropsTheBinding)
+TEST(CoreContainer, TAttributeSettingAValueDropsTheBinding)
 {
 	TAttribute<int32> Attribute = TAttribute<int32>::CreateLambda([]()
 		{ return 1; });
@@ -347,7 +347,7 @@ TEST(TAttributeBehaviour, SettingAValueDropsTheBinding)
 	EXPECT_EQ(Attribute.Get(), 5);
 }
 
-TEST(TAttributeBehaviour, PayloadsFollowTheGettersArguments)
+TEST(CoreContainer, TAttributePayloadsFollowTheGettersArguments)
 {
 	const TAttribute<int32> Sum = TAttribute<int32>::CreateLambda([](int32 A, int32 B)
 		{ return A * 10 + B; },
@@ -355,7 +355,7 @@ TEST(TAttributeBehaviour, PayloadsFollowTheGettersArguments)
 	EXPECT_EQ(Sum.Get(), 42);
 }
 
-TEST(TAttributeBehaviour, AGetterWhoseObjectIsGoneKeepsTheLastValue)
+TEST(CoreContainer, TAttributeAGetterWhoseObjectIsGoneKeepsTheLastValue)
 {
 	TSharedPtr<FCounter> Counter = MakeShared<FCounter>();
 	Counter->Value = 12;

@@ -21,7 +21,7 @@ namespace
 	};
 }
 
-TEST(TSetRemove, RemovesOnlyTheMatchingElementAndCountsIt)
+TEST(CoreSet, RemovesOnlyTheMatchingElementAndCountsIt)
 {
 	TSet<int32, FIntKeyFuncs> Set;
 	Set.Add(1);
@@ -36,7 +36,7 @@ TEST(TSetRemove, RemovesOnlyTheMatchingElementAndCountsIt)
 	EXPECT_TRUE(Set.Contains(3));
 }
 
-TEST(TSetRemove, EveryOtherElementStaysFindableAfterRandomAddsAndRemovals)
+TEST(CoreSet, EveryOtherElementStaysFindableAfterRandomAddsAndRemovals)
 {
 	std::mt19937 Random(7);
 	TSet<int32, FCollidingKeyFuncs> Set;
@@ -64,7 +64,7 @@ TEST(TSetRemove, EveryOtherElementStaysFindableAfterRandomAddsAndRemovals)
 	}
 }
 
-TEST(TSetRemove, FindGivesTheElementOfTheKeyAfterTheLastElementFilledAHole)
+TEST(CoreSet, FindGivesTheElementOfTheKeyAfterTheLastElementFilledAHole)
 {
 	TSet<FString> Set;
 	for (int32 Index = 0; Index < 50; ++Index)
@@ -86,7 +86,7 @@ TEST(TSetRemove, FindGivesTheElementOfTheKeyAfterTheLastElementFilledAHole)
 	}
 }
 
-TEST(FCrcMemCrc32, DependsOnEveryByteAndSpreadsNamesOverTheLowBits)
+TEST(CoreSet, MemCrc32DependsOnEveryByteAndSpreadsNamesOverTheLowBits)
 {
 	const FString Name = TEXT("Studio sender 12");
 	const uint32 Hash = FCrc::MemCrc32(*Name, Name.Len() * sizeof(TCHAR));

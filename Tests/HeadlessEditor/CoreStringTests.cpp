@@ -8,7 +8,7 @@
 
 #define LOCTEXT_NAMESPACE "CoreStringTests"
 
-TEST(FStringComparison, EqualityOperatorFoldsOnlyAsciiLetters)
+TEST(CoreString, FStringEqualityOperatorFoldsOnlyAsciiLetters)
 {
 	EXPECT_TRUE(FString(TEXT("Livestream")) == FString(TEXT("LIVESTREAM")));
 	EXPECT_TRUE(FString(TEXT("Livestream")) == TEXT("livestream"));
@@ -20,7 +20,7 @@ TEST(FStringComparison, EqualityOperatorFoldsOnlyAsciiLetters)
 	EXPECT_FALSE(FString(TEXT("Stream")) == FString(TEXT("Streams")));
 }
 
-TEST(FStringComparison, EqualsIsCaseSensitiveUnlessAskedOtherwise)
+TEST(CoreString, FStringEqualsIsCaseSensitiveUnlessAskedOtherwise)
 {
 	const FString Name(TEXT("Castellan"));
 	EXPECT_FALSE(Name.Equals(TEXT("castellan")));
@@ -29,7 +29,7 @@ TEST(FStringComparison, EqualsIsCaseSensitiveUnlessAskedOtherwise)
 	EXPECT_FALSE(FString(u"\u00e9").Equals(FString(u"\u00c9"), ESearchCase::IgnoreCase));
 }
 
-TEST(FStringComparison, CompareOrdersLexicallyAndShorterPrefixFirst)
+TEST(CoreString, FStringCompareOrdersLexicallyAndShorterPrefixFirst)
 {
 	EXPECT_LT(FString(TEXT("abc")).Compare(TEXT("abd")), 0);
 	EXPECT_GT(FString(TEXT("abc")).Compare(TEXT("ab")), 0);
@@ -37,7 +37,7 @@ TEST(FStringComparison, CompareOrdersLexicallyAndShorterPrefixFirst)
 	EXPECT_EQ(FString(TEXT("ABC")).Compare(TEXT("abc"), ESearchCase::IgnoreCase), 0);
 }
 
-TEST(FStringSearch, FindIgnoresCaseByDefault)
+TEST(CoreString, FStringFindIgnoresCaseByDefault)
 {
 	const FString Text(TEXT("Stream to NDI and ndi"));
 	EXPECT_EQ(Text.Find(TEXT("ndi")), 10);
@@ -47,7 +47,7 @@ TEST(FStringSearch, FindIgnoresCaseByDefault)
 	EXPECT_FALSE(Text.Contains(TEXT("STREAM"), ESearchCase::CaseSensitive));
 }
 
-TEST(FStringSearch, FindFromStartClampsTheStartPosition)
+TEST(CoreString, FStringFindFromStartClampsTheStartPosition)
 {
 	const FString Text(TEXT("abcabc"));
 	EXPECT_EQ(Text.Find(TEXT("abc"), ESearchCase::CaseSensitive, ESearchDir::FromStart, 1), 3);
@@ -56,7 +56,7 @@ TEST(FStringSearch, FindFromStartClampsTheStartPosition)
 	EXPECT_EQ(Text.Find(TEXT("abc"), ESearchCase::CaseSensitive, ESearchDir::FromStart, 100), INDEX_NONE);
 }
 
-TEST(FStringSearch, FindFromEndMatchesBeforeTheStartPosition)
+TEST(CoreString, FStringFindFromEndMatchesBeforeTheStartPosition)
 {
 	const FString Text(TEXT("abcABC"));
 	EXPECT_EQ(Text.Find(TEXT("abc"), ESearchCase::IgnoreCase, ESearchDir::FromEnd), 3);
@@ -68,7 +68,7 @@ TEST(FStringSearch, FindFromEndMatchesBeforeTheStartPosition)
 	EXPECT_EQ(Text.Find(TEXT("ABC"), ESearchCase::IgnoreCase, ESearchDir::FromEnd, 2), INDEX_NONE);
 }
 
-TEST(FStringSearch, FindCharAndFindLastChar)
+TEST(CoreString, FStringFindCharAndFindLastChar)
 {
 	const FString Path(TEXT("/Game/Maps/Main.umap"));
 	int32 Index = 42;
@@ -82,7 +82,7 @@ TEST(FStringSearch, FindCharAndFindLastChar)
 	EXPECT_EQ(Index, INDEX_NONE);
 }
 
-TEST(FStringSearch, StartsWithAndEndsWithIgnoreCaseByDefault)
+TEST(CoreString, FStringStartsWithAndEndsWithIgnoreCaseByDefault)
 {
 	const FString Name(TEXT("KyroCastellan"));
 	EXPECT_TRUE(Name.StartsWith(TEXT("kyro")));
@@ -92,7 +92,7 @@ TEST(FStringSearch, StartsWithAndEndsWithIgnoreCaseByDefault)
 	EXPECT_TRUE(Name.StartsWith(FString()));
 }
 
-TEST(FStringSplitting, SplitAtFirstOrLastOccurrence)
+TEST(CoreString, FStringSplitAtFirstOrLastOccurrence)
 {
 	const FString Pair(TEXT("Key=Value=More"));
 	FString Left;
@@ -105,7 +105,7 @@ TEST(FStringSplitting, SplitAtFirstOrLastOccurrence)
 	EXPECT_EQ(Right, TEXT("More"));
 }
 
-TEST(FStringSplitting, SplitIgnoresCaseAndLeavesOutputsWhenNotFound)
+TEST(CoreString, FStringSplitIgnoresCaseAndLeavesOutputsWhenNotFound)
 {
 	FString Left(TEXT("untouched"));
 	FString Right(TEXT("untouched"));
@@ -118,7 +118,7 @@ TEST(FStringSplitting, SplitIgnoresCaseAndLeavesOutputsWhenNotFound)
 	EXPECT_TRUE(Right.Equals(TEXT("Two")));
 }
 
-TEST(FStringSplitting, LeftRightAndChopsClampTheirCounts)
+TEST(CoreString, FStringLeftRightAndChopsClampTheirCounts)
 {
 	const FString Text(TEXT("abcdef"));
 	EXPECT_TRUE(Text.Left(2).Equals(TEXT("ab")));
@@ -134,7 +134,7 @@ TEST(FStringSplitting, LeftRightAndChopsClampTheirCounts)
 	EXPECT_TRUE(Text.RightChop(60).IsEmpty());
 }
 
-TEST(FStringSplitting, MidMeasuresItsEndFromTheRequestedStart)
+TEST(CoreString, FStringMidMeasuresItsEndFromTheRequestedStart)
 {
 	const FString Text(TEXT("abcdef"));
 	EXPECT_TRUE(Text.Mid(2).Equals(TEXT("cdef")));
@@ -146,7 +146,7 @@ TEST(FStringSplitting, MidMeasuresItsEndFromTheRequestedStart)
 	EXPECT_TRUE(Text.Mid(9, 2).IsEmpty());
 }
 
-TEST(FStringSplitting, ParseIntoArrayCullsEmptyPiecesOnRequest)
+TEST(CoreString, FStringParseIntoArrayCullsEmptyPiecesOnRequest)
 {
 	TArray<FString> Pieces;
 	EXPECT_EQ(FString(TEXT("a,,b")).ParseIntoArray(Pieces, TEXT(","), true), 2);
@@ -162,7 +162,7 @@ TEST(FStringSplitting, ParseIntoArrayCullsEmptyPiecesOnRequest)
 	EXPECT_TRUE(Pieces[0].Equals(TEXT("aXb")));
 }
 
-TEST(FStringSplitting, ParseIntoArrayOfAnEmptyStringOrDelimiterYieldsNothing)
+TEST(CoreString, FStringParseIntoArrayOfAnEmptyStringOrDelimiterYieldsNothing)
 {
 	TArray<FString> Pieces;
 	Pieces.Add(TEXT("stale"));
@@ -171,7 +171,7 @@ TEST(FStringSplitting, ParseIntoArrayOfAnEmptyStringOrDelimiterYieldsNothing)
 	EXPECT_EQ(FString(TEXT("a,b")).ParseIntoArray(Pieces, TEXT(""), false), 0);
 }
 
-TEST(FStringEditing, TrimRemovesAsciiWhitespaceAtEitherEnd)
+TEST(CoreString, FStringTrimRemovesAsciiWhitespaceAtEitherEnd)
 {
 	const FString Padded(TEXT(" \t\r\n\v\fStream Name \t\r\n"));
 	EXPECT_TRUE(Padded.TrimStartAndEnd().Equals(TEXT("Stream Name")));
@@ -180,7 +180,7 @@ TEST(FStringEditing, TrimRemovesAsciiWhitespaceAtEitherEnd)
 	EXPECT_TRUE(FString(TEXT(" \t ")).TrimStartAndEnd().IsEmpty());
 }
 
-TEST(FStringEditing, ReplaceIgnoresCaseByDefault)
+TEST(CoreString, FStringReplaceIgnoresCaseByDefault)
 {
 	const FString Text(TEXT("NDI ndi Ndi"));
 	EXPECT_TRUE(Text.Replace(TEXT("ndi"), TEXT("Spout")).Equals(TEXT("Spout Spout Spout")));
@@ -188,13 +188,13 @@ TEST(FStringEditing, ReplaceIgnoresCaseByDefault)
 	EXPECT_TRUE(Text.Replace(TEXT(""), TEXT("x")).Equals(Text));
 }
 
-TEST(FStringEditing, CaseConversionTouchesOnlyAsciiLetters)
+TEST(CoreString, FStringCaseConversionTouchesOnlyAsciiLetters)
 {
 	EXPECT_TRUE(FString(u"abc\u00e9").ToUpper().Equals(FString(u"ABC\u00e9")));
 	EXPECT_TRUE(FString(u"ABC\u00c9").ToLower().Equals(FString(u"abc\u00c9")));
 }
 
-TEST(FStringEditing, IsNumericAcceptsSignedDecimals)
+TEST(CoreString, FStringIsNumericAcceptsSignedDecimals)
 {
 	EXPECT_TRUE(FString(TEXT("42")).IsNumeric());
 	EXPECT_TRUE(FString(TEXT("-4.5")).IsNumeric());
@@ -207,7 +207,7 @@ TEST(FStringEditing, IsNumericAcceptsSignedDecimals)
 	EXPECT_TRUE(FString(TEXT(".")).IsNumeric());
 }
 
-TEST(FStringPaths, SlashOperatorJoinsWithExactlyOneSeparator)
+TEST(CoreString, FStringSlashOperatorJoinsWithExactlyOneSeparator)
 {
 	EXPECT_TRUE((FString(TEXT("Dir")) / TEXT("File")).Equals(TEXT("Dir/File")));
 	EXPECT_TRUE((FString(TEXT("Dir/")) / TEXT("File")).Equals(TEXT("Dir/File")));
@@ -225,7 +225,7 @@ TEST(FStringPaths, SlashOperatorJoinsWithExactlyOneSeparator)
 	EXPECT_TRUE(Path.Equals(TEXT("Root/Sub/Leaf.png")));
 }
 
-TEST(FStringFormatting, PrintfConvertsTheCommonSpecifiers)
+TEST(CoreString, FStringPrintfConvertsTheCommonSpecifiers)
 {
 	EXPECT_TRUE(FString::Printf(TEXT("%d|%i|%u"), -12, 7, 9u).Equals(TEXT("-12|7|9")));
 	EXPECT_TRUE(FString::Printf(TEXT("%03d|%-3d|%+d"), 5, 5, 5).Equals(TEXT("005|5  |+5")));
@@ -236,7 +236,7 @@ TEST(FStringFormatting, PrintfConvertsTheCommonSpecifiers)
 	EXPECT_TRUE(FString::Printf(TEXT("%c%c"), TEXT('o'), TEXT('k')).Equals(TEXT("ok")));
 }
 
-TEST(FStringFormatting, FromIntJoinAndChrN)
+TEST(CoreString, FStringFromIntJoinAndChrN)
 {
 	EXPECT_TRUE(FString::FromInt(-2048).Equals(TEXT("-2048")));
 	const TArray<FString> Parts{TEXT("a"), TEXT("b"), TEXT("c")};
@@ -285,14 +285,14 @@ TEST(CoreString, UnpairedSurrogatesBecomeBogusCharactersInUtf8)
 	EXPECT_STREQ(TCHAR_TO_UTF8(Text), "?a?");
 }
 
-TEST(FStringDeathTest, IndexingOutOfRangeIsFatal)
+TEST(CoreStringDeathTest, FStringIndexingOutOfRangeIsFatal)
 {
 	const FString Text(TEXT("abc"));
 	EXPECT_DEATH((void)Text[3], "String index out of bounds: Index 3 from a string with a length of 3");
 	EXPECT_DEATH((void)Text[-1], "String index out of bounds: Index -1");
 }
 
-TEST(FNameBehaviour, ComparesIgnoringCaseButKeepsEachSpelling)
+TEST(CoreString, FNameComparesIgnoringCaseButKeepsEachSpelling)
 {
 	const FName Upper(TEXT("LivestreamWizard"));
 	const FName Lower(TEXT("livestreamwizard"));
@@ -303,7 +303,7 @@ TEST(FNameBehaviour, ComparesIgnoringCaseButKeepsEachSpelling)
 	EXPECT_NE(FName(TEXT("Spout")), FName(TEXT("Spouts")));
 }
 
-TEST(FNameBehaviour, NoneEmptyAndTheWordNoneAreAllNameNone)
+TEST(CoreString, FNameNoneEmptyAndTheWordNoneAreAllNameNone)
 {
 	EXPECT_TRUE(FName().IsNone());
 	EXPECT_TRUE(FName(TEXT("")).IsNone());
@@ -316,7 +316,7 @@ TEST(FNameBehaviour, NoneEmptyAndTheWordNoneAreAllNameNone)
 	EXPECT_FALSE(FName(TEXT("Nones")).IsNone());
 }
 
-TEST(FTextLocalisation, LocTextRecordsNamespaceAndKey)
+TEST(CoreString, LocTextRecordsNamespaceAndKey)
 {
 	const FText Title = LOCTEXT("WizardTitle", "Livestream Wizard");
 	EXPECT_TRUE(Title.ToString().Equals(TEXT("Livestream Wizard"), ESearchCase::CaseSensitive));
@@ -333,7 +333,7 @@ TEST(FTextLocalisation, LocTextRecordsNamespaceAndKey)
 	EXPECT_FALSE(FText::FromString(TEXT("Plain")).IsCultureInvariant());
 }
 
-TEST(FTextComparison, EqualToIsCaseSensitiveAndEmptyTextIsEmpty)
+TEST(CoreString, FTextEqualToIsCaseSensitiveAndEmptyTextIsEmpty)
 {
 	EXPECT_TRUE(FText::FromString(TEXT("Go")).EqualTo(FText::FromString(TEXT("Go"))));
 	EXPECT_FALSE(FText::FromString(TEXT("Go")).EqualTo(FText::FromString(TEXT("GO"))));
@@ -343,13 +343,13 @@ TEST(FTextComparison, EqualToIsCaseSensitiveAndEmptyTextIsEmpty)
 	EXPECT_TRUE(FText::FromName(NAME_None).ToString().Equals(TEXT("None")));
 }
 
-TEST(FTextFormatting, OrderedArgumentsFillByIndexAndMayRepeat)
+TEST(CoreString, FTextOrderedArgumentsFillByIndexAndMayRepeat)
 {
 	const FText Result = FText::Format(LOCTEXT("Ordered", "{1} then {0}, {1} again"), FText::FromString(TEXT("A")), FText::FromString(TEXT("B")));
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("B then A, B again"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextFormatting, MissingArgumentsStayInTheText)
+TEST(CoreString, FTextMissingArgumentsStayInTheText)
 {
 	const FText Result = FText::Format(LOCTEXT("Missing", "{0} and {3}"), FText::FromString(TEXT("A")));
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("A and {3}"), ESearchCase::CaseSensitive));
@@ -360,7 +360,7 @@ TEST(FTextFormatting, MissingArgumentsStayInTheText)
 	EXPECT_TRUE(NamedResult.ToString().Equals(TEXT("Out/{Other}"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextFormatting, NamedArgumentsMatchTheirNameWithCase)
+TEST(CoreString, FTextNamedArgumentsMatchTheirNameWithCase)
 {
 	FFormatNamedArguments Named;
 	Named.Add(TEXT("Count"), 3);
@@ -368,26 +368,26 @@ TEST(FTextFormatting, NamedArgumentsMatchTheirNameWithCase)
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("3 / {count}"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextFormatting, NamedPlaceholdersWithOrderedArgumentsUseTheirPosition)
+TEST(CoreString, FTextNamedPlaceholdersWithOrderedArgumentsUseTheirPosition)
 {
 	// A placeholder that is not a number takes the argument at its own position among the placeholders.
 	const FText Result = FText::Format(FText::FromString(TEXT("{First}-{0}-{Third}")), 10, 20, 30);
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("10-10-30"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextFormatting, BacktickEscapesTheFormatCharacters)
+TEST(CoreString, FTextBacktickEscapesTheFormatCharacters)
 {
 	const FText Result = FText::Format(FText::FromString(TEXT("`{0`} ``{0} `|pipe `x")), FText::FromString(TEXT("v")));
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("{0} `v |pipe `x"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextFormatting, NumericArgumentsAreGroupedAsNumbers)
+TEST(CoreString, FTextNumericArgumentsAreGroupedAsNumbers)
 {
 	const FText Result = FText::Format(FText::FromString(TEXT("{0} {1} {2}")), 1234567, -1234.5, 12u);
 	EXPECT_TRUE(Result.ToString().Equals(TEXT("1,234,567 -1,234.5 12"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextNumbers, IntegersAreGroupedByThousands)
+TEST(CoreString, FTextIntegersAreGroupedByThousands)
 {
 	EXPECT_TRUE(FText::AsNumber(0).ToString().Equals(TEXT("0")));
 	EXPECT_TRUE(FText::AsNumber(999).ToString().Equals(TEXT("999")));
@@ -399,7 +399,7 @@ TEST(FTextNumbers, IntegersAreGroupedByThousands)
 	EXPECT_TRUE(FText::AsNumber(uint64(18446744073709551615ull)).ToString().Equals(TEXT("18,446,744,073,709,551,615")));
 }
 
-TEST(FTextNumbers, FractionsKeepAtMostThreeDigitsWithoutTrailingZeros)
+TEST(CoreString, FTextFractionsKeepAtMostThreeDigitsWithoutTrailingZeros)
 {
 	EXPECT_TRUE(FText::AsNumber(1.0).ToString().Equals(TEXT("1")));
 	EXPECT_TRUE(FText::AsNumber(0.5f).ToString().Equals(TEXT("0.5")));
@@ -409,7 +409,7 @@ TEST(FTextNumbers, FractionsKeepAtMostThreeDigitsWithoutTrailingZeros)
 	EXPECT_TRUE(FText::AsNumber(12.04).ToString().Equals(TEXT("12.04")));
 }
 
-TEST(FTextNumbers, FractionsRoundHalfToEven)
+TEST(CoreString, FTextFractionsRoundHalfToEven)
 {
 	EXPECT_TRUE(FText::AsNumber(0.0125).ToString().Equals(TEXT("0.012")));
 	EXPECT_TRUE(FText::AsNumber(0.0135).ToString().Equals(TEXT("0.014")));
@@ -420,14 +420,14 @@ TEST(FTextNumbers, FractionsRoundHalfToEven)
 	EXPECT_TRUE(FText::AsNumber(-1.9999).ToString().Equals(TEXT("-2")));
 }
 
-TEST(FTextNumbers, NegativeValuesThatRoundToZeroKeepTheirSign)
+TEST(CoreString, FTextNegativeValuesThatRoundToZeroKeepTheirSign)
 {
 	EXPECT_TRUE(FText::AsNumber(-0.0001).ToString().Equals(TEXT("-0")));
 	EXPECT_TRUE(FText::AsNumber(-0.0).ToString().Equals(TEXT("-0")));
 	EXPECT_TRUE(FText::AsNumber(0.0).ToString().Equals(TEXT("0")));
 }
 
-TEST(FTextWhitespace, EmptyOrWhitespaceFollowsUnicodeWhiteSpace)
+TEST(CoreString, FTextEmptyOrWhitespaceFollowsUnicodeWhiteSpace)
 {
 	EXPECT_TRUE(FText::GetEmpty().IsEmptyOrWhitespace());
 	EXPECT_TRUE(FText::FromString(TEXT(" \t\r\n")).IsEmptyOrWhitespace());
@@ -436,7 +436,7 @@ TEST(FTextWhitespace, EmptyOrWhitespaceFollowsUnicodeWhiteSpace)
 	EXPECT_FALSE(FText::FromString(TEXT(" x ")).IsEmptyOrWhitespace());
 }
 
-TEST(FTextWhitespace, NoBreakSpacesAreNotWhitespace)
+TEST(CoreString, FTextNoBreakSpacesAreNotWhitespace)
 {
 	EXPECT_FALSE(FText::FromString(FString(u"\u00a0")).IsEmptyOrWhitespace());
 	EXPECT_FALSE(FText::FromString(FString(u"\u2007")).IsEmptyOrWhitespace());
@@ -445,7 +445,7 @@ TEST(FTextWhitespace, NoBreakSpacesAreNotWhitespace)
 	EXPECT_TRUE(FText::IsWhitespace(0x205F));
 }
 
-TEST(FTextBuilding, TextBuilderIndentsByFourSpacesPerLevel)
+TEST(CoreString, TextBuilderIndentsByFourSpacesPerLevel)
 {
 	FTextBuilder Builder;
 	EXPECT_TRUE(Builder.IsEmpty());
@@ -456,7 +456,7 @@ TEST(FTextBuilding, TextBuilderIndentsByFourSpacesPerLevel)
 	EXPECT_TRUE(Builder.ToText().ToString().Equals(TEXT("        NDI: 2"), ESearchCase::CaseSensitive));
 }
 
-TEST(FTextBuilding, ClearDropsTheLinesButKeepsTheIndentation)
+TEST(CoreString, ClearDropsTheLinesButKeepsTheIndentation)
 {
 	FTextBuilder Builder;
 	Builder.Indent();

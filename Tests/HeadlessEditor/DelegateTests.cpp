@@ -36,7 +36,7 @@ namespace
 	};
 }
 
-TEST(SingleDelegates, PayloadsFollowTheCallArguments)
+TEST(Delegate, SinglePayloadsFollowTheCallArguments)
 {
 	const FDescribeDelegate Static = FDescribeDelegate::CreateStatic(&DescribeStatic, FString(TEXT("n=")));
 	EXPECT_TRUE(Static.Execute(4).Equals(TEXT("n=4")));
@@ -57,7 +57,7 @@ TEST(SingleDelegates, PayloadsFollowTheCallArguments)
 	EXPECT_FALSE(SharedBound.IsBoundToObject(&Raw));
 }
 
-TEST(SingleDelegates, PayloadsAreCopiedWhenBound)
+TEST(Delegate, SinglePayloadsAreCopiedWhenBound)
 {
 	FString Prefix(TEXT("before:"));
 	const FDescribeDelegate Bound = FDescribeDelegate::CreateStatic(&DescribeStatic, Prefix);
@@ -65,7 +65,7 @@ TEST(SingleDelegates, PayloadsAreCopiedWhenBound)
 	EXPECT_TRUE(Bound.Execute(1).Equals(TEXT("before:1")));
 }
 
-TEST(SingleDelegates, SharedBindingsUnbindWhenTheirObjectDies)
+TEST(Delegate, SingleSharedBindingsUnbindWhenTheirObjectDies)
 {
 	TSharedPtr<FListener> Listener = MakeShared<FListener>(TEXT("gone"));
 	FString Log;
@@ -80,7 +80,7 @@ TEST(SingleDelegates, SharedBindingsUnbindWhenTheirObjectDies)
 	EXPECT_TRUE(Log.Equals(TEXT("gone(a)")));
 }
 
-TEST(SingleDelegates, UnbindAndExecuteIfBound)
+TEST(Delegate, SingleUnbindAndExecuteIfBound)
 {
 	FNoteDelegate Delegate;
 	EXPECT_FALSE(Delegate.IsBound());
@@ -95,13 +95,13 @@ TEST(SingleDelegates, UnbindAndExecuteIfBound)
 	EXPECT_EQ(Calls, 1);
 }
 
-TEST(SingleDelegatesDeathTest, ExecutingAnUnboundDelegateIsFatal)
+TEST(DelegateDeathTest, SingleExecutingAnUnboundDelegateIsFatal)
 {
 	const FDescribeDelegate Unbound;
 	EXPECT_DEATH((void)Unbound.Execute(1), "Assertion failed");
 }
 
-TEST(MulticastDelegates, BroadcastCallsTheLatestBindingFirst)
+TEST(Delegate, MulticastBroadcastCallsTheLatestBindingFirst)
 {
 	FOnNote OnNote;
 	FCallLog Log;
@@ -115,7 +115,7 @@ TEST(MulticastDelegates, BroadcastCallsTheLatestBindingFirst)
 	EXPECT_TRUE(Log.Calls.Equals(TEXT("CBA"), ESearchCase::CaseSensitive));
 }
 
-TEST(MulticastDelegates, RemovingMovesTheLastBindingIntoTheHole)
+TEST(Delegate, MulticastRemovingMovesTheLastBindingIntoTheHole)
 {
 	FOnNote OnNote;
 	FCallLog Log;
@@ -133,7 +133,7 @@ TEST(MulticastDelegates, RemovingMovesTheLastBindingIntoTheHole)
 	EXPECT_TRUE(Log.Calls.Equals(TEXT("CBD"), ESearchCase::CaseSensitive));
 }
 
-TEST(MulticastDelegates, HandlesAreDistinctAndOnlyValidWhenAdded)
+TEST(Delegate, MulticastHandlesAreDistinctAndOnlyValidWhenAdded)
 {
 	FOnNote OnNote;
 	const FDelegateHandle First = OnNote.AddLambda([](const FString&) {});
@@ -144,7 +144,7 @@ TEST(MulticastDelegates, HandlesAreDistinctAndOnlyValidWhenAdded)
 	EXPECT_FALSE(OnNote.Remove(FDelegateHandle()));
 }
 
-TEST(MulticastDelegates, ABindingRemovedDuringBroadcastIsNotCalled)
+TEST(Delegate, MulticastABindingRemovedDuringBroadcastIsNotCalled)
 {
 	FOnNote OnNote;
 	FCallLog Log;
@@ -167,7 +167,7 @@ TEST(MulticastDelegates, ABindingRemovedDuringBroadcastIsNotCalled)
 	EXPECT_TRUE(Log.Calls.Equals(TEXT("CDA"), ESearchCase::CaseSensitive));
 }
 
-TEST(MulticastDelegates, ABindingAddedDuringBroadcastWaitsForTheNextOne)
+TEST(Delegate, MulticastABindingAddedDuringBroadcastWaitsForTheNextOne)
 {
 	FOnNote OnNote;
 	FCallLog Log;
@@ -186,7 +186,7 @@ TEST(MulticastDelegates, ABindingAddedDuringBroadcastWaitsForTheNextOne)
 	EXPECT_TRUE(Log.Calls.Equals(TEXT("ANA"), ESearchCase::CaseSensitive));
 }
 
-TEST(MulticastDelegates, ABindingMayRemoveItselfWhileRunning)
+TEST(Delegate, MulticastABindingMayRemoveItselfWhileRunning)
 {
 	FOnNote OnNote;
 	int32 Calls = 0;
@@ -201,7 +201,7 @@ TEST(MulticastDelegates, ABindingMayRemoveItselfWhileRunning)
 	EXPECT_FALSE(OnNote.IsBound());
 }
 
-TEST(MulticastDelegates, RemoveAllTakesOnlyThatObjectsBindings)
+TEST(Delegate, MulticastRemoveAllTakesOnlyThatObjectsBindings)
 {
 	FOnNote OnNote;
 	FString Log;
@@ -222,7 +222,7 @@ TEST(MulticastDelegates, RemoveAllTakesOnlyThatObjectsBindings)
 	EXPECT_FALSE(Log.Contains(TEXT("first")));
 }
 
-TEST(MulticastDelegates, RemoveAllDuringBroadcastSkipsTheRemovedBindings)
+TEST(Delegate, MulticastRemoveAllDuringBroadcastSkipsTheRemovedBindings)
 {
 	FOnNote OnNote;
 	FString Log;
@@ -235,7 +235,7 @@ TEST(MulticastDelegates, RemoveAllDuringBroadcastSkipsTheRemovedBindings)
 	EXPECT_FALSE(OnNote.IsBoundToObject(&Doomed));
 }
 
-TEST(MulticastDelegates, DeadSharedBindingsCountAsBoundUntilABroadcastSkipsThem)
+TEST(Delegate, MulticastDeadSharedBindingsCountAsBoundUntilABroadcastSkipsThem)
 {
 	FOnNote OnNote;
 	FString Log;
@@ -248,7 +248,7 @@ TEST(MulticastDelegates, DeadSharedBindingsCountAsBoundUntilABroadcastSkipsThem)
 	EXPECT_FALSE(OnNote.IsBound());
 }
 
-TEST(MulticastDelegates, ClearUnbindsEverything)
+TEST(Delegate, MulticastClearUnbindsEverything)
 {
 	FOnNote OnNote;
 	int32 Calls = 0;
@@ -262,7 +262,7 @@ TEST(MulticastDelegates, ClearUnbindsEverything)
 	EXPECT_EQ(Calls, 0);
 }
 
-TEST(MulticastDelegates, ClearDuringBroadcastStopsTheRemainingCalls)
+TEST(Delegate, MulticastClearDuringBroadcastStopsTheRemainingCalls)
 {
 	FOnNote OnNote;
 	FCallLog Log;

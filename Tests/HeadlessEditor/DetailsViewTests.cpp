@@ -56,10 +56,10 @@ namespace
 		}
 	};
 
-	class DetailsViewTests : public ::testing::Test
+	class DetailsView : public ::testing::Test
 	{
 	protected:
-		DetailsViewTests()
+		DetailsView()
 			: Session(MakeOptions())
 		{
 		}
@@ -84,7 +84,7 @@ namespace
 	};
 }
 
-TEST_F(DetailsViewTests, DefaultRowsFollowTheCategoryMetadataAndExpandStructMembers)
+TEST_F(DetailsView, DefaultRowsFollowTheCategoryMetadataAndExpandStructMembers)
 {
 	FDetailsViewDriver Driver({Spawn()});
 	const TSharedPtr<FHeadlessDetailCategory> Category = Driver.FindCategory(TEXT("Screen Capture"));
@@ -99,7 +99,7 @@ TEST_F(DetailsViewTests, DefaultRowsFollowTheCategoryMetadataAndExpandStructMemb
 	EXPECT_EQ(FWidgetDriver::GetFont(*StaticCastSharedRef<STextBlock>(Active->Widgets.NameWidget.Widget)), IDetailLayoutBuilder::GetDetailFont());
 }
 
-TEST_F(DetailsViewTests, HandlesReadChildrenAndAnswerMultipleValuesWhenObjectsDisagree)
+TEST_F(DetailsView, HandlesReadChildrenAndAnswerMultipleValuesWhenObjectsDisagree)
 {
 	AKyroScreenCapture* First = Spawn();
 	AKyroScreenCapture* Second = Spawn();
@@ -128,7 +128,7 @@ TEST_F(DetailsViewTests, HandlesReadChildrenAndAnswerMultipleValuesWhenObjectsDi
 	EXPECT_EQ(RawData, TArray<void*>({&First->Options.MonitorName, &Second->Options.MonitorName}));
 }
 
-TEST_F(DetailsViewTests, SetValueWritesEveryObjectWithNotificationsOnlyWhenTheValueChanges)
+TEST_F(DetailsView, SetValueWritesEveryObjectWithNotificationsOnlyWhenTheValueChanges)
 {
 	AKyroScreenCapture* First = Spawn();
 	AKyroScreenCapture* Second = Spawn();
@@ -158,7 +158,7 @@ TEST_F(DetailsViewTests, SetValueWritesEveryObjectWithNotificationsOnlyWhenTheVa
 	EXPECT_EQ(Monitor->SetValue(true), FPropertyAccess::Fail);
 }
 
-TEST_F(DetailsViewTests, DefaultWidgetsEditThroughTheHandle)
+TEST_F(DetailsView, DefaultWidgetsEditThroughTheHandle)
 {
 	AKyroScreenCapture* Capture = Spawn();
 	FDetailsViewDriver Driver({Capture});
@@ -170,7 +170,7 @@ TEST_F(DetailsViewTests, DefaultWidgetsEditThroughTheHandle)
 	EXPECT_FALSE(CursorBox->IsChecked());
 }
 
-TEST_F(DetailsViewTests, TypeCustomisationReplacesTheStructRowsAndLivesAsLongAsTheLayout)
+TEST_F(DetailsView, TypeCustomisationReplacesTheStructRowsAndLivesAsLongAsTheLayout)
 {
 	PropertyModule().RegisterCustomPropertyTypeLayout(TEXT("KyroScreenCaptureOptions"), FOnGetPropertyTypeCustomizationInstance::CreateLambda([]()
 																							{ return TSharedRef<IPropertyTypeCustomization>(MakeShared<FTestOptionsCustomisation>()); }));
@@ -191,7 +191,7 @@ TEST_F(DetailsViewTests, TypeCustomisationReplacesTheStructRowsAndLivesAsLongAsT
 	PropertyModule().UnregisterCustomPropertyTypeLayout(TEXT("KyroScreenCaptureOptions"));
 }
 
-TEST_F(DetailsViewTests, ClassCustomisationAppliesToSubclassesAndAddsCategoriesAfterTheDefaultOnes)
+TEST_F(DetailsView, ClassCustomisationAppliesToSubclassesAndAddsCategoriesAfterTheDefaultOnes)
 {
 	PropertyModule().RegisterCustomClassLayout(TEXT("Actor"), FOnGetDetailCustomizationInstance::CreateLambda([]()
 																  { return TSharedRef<IDetailCustomization>(MakeShared<FTestActorCustomisation>()); }));

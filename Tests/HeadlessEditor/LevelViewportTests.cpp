@@ -11,10 +11,10 @@
 
 namespace
 {
-	class LevelViewportTests : public ::testing::Test
+	class LevelViewport : public ::testing::Test
 	{
 	protected:
-		LevelViewportTests()
+		LevelViewport()
 			: Session(MakeOptions())
 		{
 		}
@@ -41,7 +41,7 @@ namespace
 		FHeadlessEditorSession Session;
 	};
 
-	TEST_F(LevelViewportTests, ClientsRegisterWithTheEditorWhileTheyLive)
+	TEST_F(LevelViewport, ClientsRegisterWithTheEditorWhileTheyLive)
 	{
 		ASSERT_EQ(GEditor->GetLevelViewportClients().Num(), 0);
 
@@ -58,7 +58,7 @@ namespace
 		EXPECT_EQ(GEditor->GetAllViewportClients(), TArray<FEditorViewportClient*>({First.Get(), Third.Get()}));
 	}
 
-	TEST_F(LevelViewportTests, ANewClientLooksFromTheOriginIntoTheEditorWorld)
+	TEST_F(LevelViewport, ANewClientLooksFromTheOriginIntoTheEditorWorld)
 	{
 		TSharedPtr<FLevelEditorViewportClient> Client = MakeClient();
 
@@ -68,7 +68,7 @@ namespace
 		EXPECT_EQ(Client->GetWorld(), GEditor->GetEditorWorldContext().World());
 	}
 
-	TEST_F(LevelViewportTests, PlayingInEditorLeavesTheViewportOnTheEditorWorld)
+	TEST_F(LevelViewport, PlayingInEditorLeavesTheViewportOnTheEditorWorld)
 	{
 		TSharedPtr<FLevelEditorViewportClient> Client = MakeClient();
 		UWorld* EditorWorld = GEditor->GetEditorWorldContext().World();
@@ -82,7 +82,7 @@ namespace
 		GEditor->EndPlayMap();
 	}
 
-	TEST_F(LevelViewportTests, SimulatingShowsThePlayWorldUntilTheSessionEnds)
+	TEST_F(LevelViewport, SimulatingShowsThePlayWorldUntilTheSessionEnds)
 	{
 		TSharedPtr<FLevelEditorViewportClient> Client = MakeClient();
 		UWorld* EditorWorld = GEditor->GetEditorWorldContext().World();
@@ -99,7 +99,7 @@ namespace
 		EXPECT_EQ(Client->GetWorld(), EditorWorld);
 	}
 
-	TEST_F(LevelViewportTests, PlaySessionRequestsAreQueuedUntilStartedOrCancelled)
+	TEST_F(LevelViewport, PlaySessionRequestsAreQueuedUntilStartedOrCancelled)
 	{
 		GEditor->StartQueuedPlaySessionRequest();
 		EXPECT_FALSE(GEditor->IsPlaySessionInProgress()) << "Starting with nothing queued does nothing";
@@ -118,7 +118,7 @@ namespace
 		EXPECT_EQ(GEditor->PlayWorld, nullptr);
 	}
 
-	TEST_F(LevelViewportTests, EndingIsOnlyRequestedWhileThereIsAPlayWorld)
+	TEST_F(LevelViewport, EndingIsOnlyRequestedWhileThereIsAPlayWorld)
 	{
 		GEditor->RequestEndPlayMap();
 		EXPECT_FALSE(GEditor->ShouldEndPlayMap());

@@ -89,7 +89,7 @@ namespace
 		}
 	};
 
-	class FModuleManagerTest : public ::testing::Test
+	class ModuleManager : public ::testing::Test
 	{
 	protected:
 		void SetUp() override { Events().Reset(); }
@@ -109,7 +109,7 @@ IMPLEMENT_MODULE(FOuterTestModule, OuterTestModule)
 IMPLEMENT_MODULE(FInnerTestModule, InnerTestModule)
 IMPLEMENT_MODULE(FPersistentTestModule, PersistentTestModule)
 
-TEST_F(FModuleManagerTest, IsModuleLoadedAndGetModuleNeverLoad)
+TEST_F(ModuleManager, IsModuleLoadedAndGetModuleNeverLoad)
 {
 	FModuleManager& Manager = FModuleManager::Get();
 	EXPECT_FALSE(Manager.IsModuleLoaded(TEXT("FirstTestModule")));
@@ -119,7 +119,7 @@ TEST_F(FModuleManagerTest, IsModuleLoadedAndGetModuleNeverLoad)
 	EXPECT_TRUE(Events().IsEmpty());
 }
 
-TEST_F(FModuleManagerTest, LoadingStartsAModuleOnceAndNamesIgnoreCase)
+TEST_F(ModuleManager, LoadingStartsAModuleOnceAndNamesIgnoreCase)
 {
 	FModuleManager& Manager = FModuleManager::Get();
 	IModuleInterface* Loaded = Manager.LoadModule(TEXT("FirstTestModule"));
@@ -131,7 +131,7 @@ TEST_F(FModuleManagerTest, LoadingStartsAModuleOnceAndNamesIgnoreCase)
 	EXPECT_TRUE(JoinedEvents().Equals(TEXT("Startup:First"), ESearchCase::CaseSensitive));
 }
 
-TEST_F(FModuleManagerTest, UnloadShutsDownAndALaterLoadStartsAFreshModule)
+TEST_F(ModuleManager, UnloadShutsDownAndALaterLoadStartsAFreshModule)
 {
 	FModuleManager& Manager = FModuleManager::Get();
 	Manager.LoadModule(TEXT("FirstTestModule"));
@@ -142,20 +142,20 @@ TEST_F(FModuleManagerTest, UnloadShutsDownAndALaterLoadStartsAFreshModule)
 	EXPECT_TRUE(JoinedEvents().Equals(TEXT("Startup:First Shutdown:First Startup:First"), ESearchCase::CaseSensitive));
 }
 
-TEST_F(FModuleManagerTest, UnknownModulesDoNotLoad)
+TEST_F(ModuleManager, UnknownModulesDoNotLoad)
 {
 	EXPECT_EQ(FModuleManager::Get().LoadModule(TEXT("NoSuchTestModule")), nullptr);
 	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded(TEXT("NoSuchTestModule")));
 }
 
-TEST_F(FModuleManagerTest, AModuleIsLoadedWhileItsStartupRuns)
+TEST_F(ModuleManager, AModuleIsLoadedWhileItsStartupRuns)
 {
 	FModuleManager::Get().LoadModule(TEXT("OuterTestModule"));
 	EXPECT_TRUE(FOuterTestModule::bSelfLoadedDuringStartup);
 	EXPECT_TRUE(JoinedEvents().Equals(TEXT("Startup:Outer Startup:Inner"), ESearchCase::CaseSensitive));
 }
 
-TEST_F(FModuleManagerTest, ShutdownUnloadsMostRecentlyStartedFirstAfterPreUnloadingAll)
+TEST_F(ModuleManager, ShutdownUnloadsMostRecentlyStartedFirstAfterPreUnloadingAll)
 {
 	FModuleManager& Manager = FModuleManager::Get();
 	Manager.LoadModule(TEXT("FirstTestModule"));
@@ -166,7 +166,7 @@ TEST_F(FModuleManagerTest, ShutdownUnloadsMostRecentlyStartedFirstAfterPreUnload
 	EXPECT_FALSE(Manager.IsModuleLoaded(TEXT("FirstTestModule")));
 }
 
-TEST_F(FModuleManagerTest, AModuleLoadedByAnotherStartupShutsDownAfterIt)
+TEST_F(ModuleManager, AModuleLoadedByAnotherStartupShutsDownAfterIt)
 {
 	// The outer module finishes starting last, so it is the first to shut down.
 	FModuleManager& Manager = FModuleManager::Get();
@@ -176,7 +176,7 @@ TEST_F(FModuleManagerTest, AModuleLoadedByAnotherStartupShutsDownAfterIt)
 	EXPECT_TRUE(JoinedEvents().Equals(TEXT("PreUnload:Outer PreUnload:Inner Shutdown:Outer Shutdown:Inner"), ESearchCase::CaseSensitive));
 }
 
-TEST_F(FModuleManagerTest, ModulesWithoutAutomaticShutdownStayLoadedAtShutdown)
+TEST_F(ModuleManager, ModulesWithoutAutomaticShutdownStayLoadedAtShutdown)
 {
 	FModuleManager& Manager = FModuleManager::Get();
 	Manager.LoadModule(TEXT("PersistentTestModule"));

@@ -20,7 +20,7 @@
 namespace
 {
 	/** Records what Modify saves, as the editor's transaction buffer would. */
-	class ObjectTests : public ::testing::Test
+	class Object : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -38,7 +38,7 @@ namespace
 	};
 }
 
-TEST_F(ObjectTests, EditorSessionHasAnEditorWorldWithAPersistentLevel)
+TEST_F(Object, EditorSessionHasAnEditorWorldWithAPersistentLevel)
 {
 	EXPECT_EQ(GEditor, (UEditorEngine*)GUnrealEd);
 	ASSERT_NE(World, nullptr);
@@ -50,7 +50,7 @@ TEST_F(ObjectTests, EditorSessionHasAnEditorWorldWithAPersistentLevel)
 	EXPECT_FALSE(World->GetOutermost()->IsDirty());
 }
 
-TEST_F(ObjectTests, SpawnedActorsGetClassNamesTheLevelAsOuterAndTheirDefaultSubobjects)
+TEST_F(Object, SpawnedActorsGetClassNamesTheLevelAsOuterAndTheirDefaultSubobjects)
 {
 	AActor* First = World->SpawnActor<AActor>();
 	ASceneCapture2D* Capture = World->SpawnActor<ASceneCapture2D>(FVector(1.0, 2.0, 3.0), FRotator(0.0, 90.0, 0.0));
@@ -80,7 +80,7 @@ TEST_F(ObjectTests, SpawnedActorsGetClassNamesTheLevelAsOuterAndTheirDefaultSubo
 	EXPECT_EQ(World->SpawnActor(UTextureRenderTarget2D::StaticClass()), nullptr);
 }
 
-TEST_F(ObjectTests, GetAllActorsOfClassKeepsSpawnOrderAndFiltersByClass)
+TEST_F(Object, GetAllActorsOfClassKeepsSpawnOrderAndFiltersByClass)
 {
 	ASceneCapture2D* A = World->SpawnActor<ASceneCapture2D>();
 	AActor* B = World->SpawnActor<AActor>();
@@ -95,7 +95,7 @@ TEST_F(ObjectTests, GetAllActorsOfClassKeepsSpawnOrderAndFiltersByClass)
 	EXPECT_EQ(Found, (TArray<AActor*>{C}));
 }
 
-TEST_F(ObjectTests, DestroyedActorsAndTheirComponentsStaleWeakPointers)
+TEST_F(Object, DestroyedActorsAndTheirComponentsStaleWeakPointers)
 {
 	ASceneCapture2D* Capture = World->SpawnActor<ASceneCapture2D>();
 	TWeakObjectPtr<AActor> WeakActor = Capture;
@@ -119,7 +119,7 @@ TEST_F(ObjectTests, DestroyedActorsAndTheirComponentsStaleWeakPointers)
 	EXPECT_TRUE(TWeakObjectPtr<AActor>().IsExplicitlyNull());
 }
 
-TEST_F(ObjectTests, TearingTheSessionDownDestroysEveryObjectItMade)
+TEST_F(Object, TearingTheSessionDownDestroysEveryObjectItMade)
 {
 	TWeakObjectPtr<AActor> Actor = World->SpawnActor<AActor>();
 	TWeakObjectPtr<UTextureRenderTarget2D> Asset = NewObject<UTextureRenderTarget2D>(CreatePackage(TEXT("/Game/Stage")));
@@ -137,7 +137,7 @@ TEST_F(ObjectTests, TearingTheSessionDownDestroysEveryObjectItMade)
 	EXPECT_EQ(World->SpawnActor<AActor>()->GetName(), TEXT("Actor_0"));
 }
 
-TEST_F(ObjectTests, CastsCheckTheClass)
+TEST_F(Object, CastsCheckTheClass)
 {
 	AActor* Plain = World->SpawnActor<AActor>();
 	AActor* Capture = World->SpawnActor<ASceneCapture2D>();
@@ -150,7 +150,7 @@ TEST_F(ObjectTests, CastsCheckTheClass)
 	EXPECT_DEATH(CastChecked<AActor>((UObject*)nullptr), "Cast of nullptr to Actor failed");
 }
 
-TEST_F(ObjectTests, NewObjectNamesFindsAndCopiesFromATemplate)
+TEST_F(Object, NewObjectNamesFindsAndCopiesFromATemplate)
 {
 	UPackage* Package = CreatePackage(TEXT("/Game/LivestreamWizard/Stage"));
 	UTextureRenderTarget2D* First = NewObject<UTextureRenderTarget2D>(Package);
@@ -171,7 +171,7 @@ TEST_F(ObjectTests, NewObjectNamesFindsAndCopiesFromATemplate)
 	EXPECT_DEATH(First->CreateDefaultSubobject<USceneComponent>(TEXT("Late")), "CreateDefaultSubobject can only be used inside of UObject constructors");
 }
 
-TEST_F(ObjectTests, ModifyRecordsInTheOpenTransactionAndDirtiesThePackage)
+TEST_F(Object, ModifyRecordsInTheOpenTransactionAndDirtiesThePackage)
 {
 	AActor* Actor = World->SpawnActor<AActor>();
 	UPackage* MapPackage = World->GetOutermost();
@@ -196,7 +196,7 @@ TEST_F(ObjectTests, ModifyRecordsInTheOpenTransactionAndDirtiesThePackage)
 	EXPECT_FALSE(GetTransientPackage()->IsDirty());
 }
 
-TEST_F(ObjectTests, PlaySessionStartsWhenTheQueuedRequestRunsAndEndsOnEndPlayMap)
+TEST_F(Object, PlaySessionStartsWhenTheQueuedRequestRunsAndEndsOnEndPlayMap)
 {
 	EXPECT_FALSE(GEditor->IsPlayingSessionInEditor());
 	GEditor->RequestPlaySession(FRequestPlaySessionParams());

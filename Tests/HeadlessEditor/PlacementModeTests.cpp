@@ -8,14 +8,14 @@
 
 #include <gtest/gtest.h>
 
-#define LOCTEXT_NAMESPACE "PlacementModeTests"
+#define LOCTEXT_NAMESPACE "PlacementMode"
 
 namespace
 {
 	const FName PlacementModeModuleName(TEXT("PlacementMode"));
 	const FName ProbeHandle(TEXT("PlacementProbe"));
 
-	class PlacementModeTests : public ::testing::Test
+	class PlacementMode : public ::testing::Test
 	{
 	protected:
 		virtual void TearDown() override { FModuleManager::Get().UnloadModule(PlacementModeModuleName); }
@@ -32,7 +32,7 @@ namespace
 		}
 	};
 
-	TEST_F(PlacementModeTests, GetLoadsTheModuleWhileIsAvailableOnlyAsks)
+	TEST_F(PlacementMode, GetLoadsTheModuleWhileIsAvailableOnlyAsks)
 	{
 		EXPECT_FALSE(IPlacementModeModule::IsAvailable());
 		EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded(PlacementModeModuleName));
@@ -43,7 +43,7 @@ namespace
 		EXPECT_EQ(&IPlacementModeModule::Get(), &Module);
 	}
 
-	TEST_F(PlacementModeTests, ADuplicateHandleIsRefusedAndTheFirstRecordKept)
+	TEST_F(PlacementMode, ADuplicateHandleIsRefusedAndTheFirstRecordKept)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 
@@ -57,7 +57,7 @@ namespace
 		EXPECT_EQ(Module.GetRegisteredPlacementCategory(TEXT("NoSuchCategory")), nullptr);
 	}
 
-	TEST_F(PlacementModeTests, UnregisteringACategoryRemovesItsItems)
+	TEST_F(PlacementMode, UnregisteringACategoryRemovesItsItems)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 		Module.RegisterPlacementCategory(MakeCategory(ProbeHandle, LOCTEXT("Probe", "Probe")));
@@ -72,7 +72,7 @@ namespace
 		EXPECT_EQ(CountItems(ProbeHandle), 0) << "A category registered again starts empty";
 	}
 
-	TEST_F(PlacementModeTests, ItemsNeedAnExistingCategoryWithoutItsOwnGenerator)
+	TEST_F(PlacementMode, ItemsNeedAnExistingCategoryWithoutItsOwnGenerator)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 		EXPECT_FALSE(Module.RegisterPlaceableItem(ProbeHandle, MakeClassItem()).IsSet());
@@ -89,7 +89,7 @@ namespace
 		EXPECT_EQ(ID->Category, ProbeHandle);
 	}
 
-	TEST_F(PlacementModeTests, UnregisterPlaceableItemRemovesOnlyThatItem)
+	TEST_F(PlacementMode, UnregisterPlaceableItemRemovesOnlyThatItem)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 		Module.RegisterPlacementCategory(MakeCategory(ProbeHandle, LOCTEXT("Probe", "Probe")));
@@ -103,7 +103,7 @@ namespace
 		EXPECT_EQ(CountItems(ProbeHandle), 1);
 	}
 
-	TEST_F(PlacementModeTests, GetItemsForCategoryAppendsToWhatTheArrayHolds)
+	TEST_F(PlacementMode, GetItemsForCategoryAppendsToWhatTheArrayHolds)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 		Module.RegisterPlacementCategory(MakeCategory(ProbeHandle, LOCTEXT("Probe", "Probe")));
@@ -116,7 +116,7 @@ namespace
 		EXPECT_EQ(Items.Num(), 2);
 	}
 
-	TEST_F(PlacementModeTests, SortedCategoriesFollowTheirSortOrder)
+	TEST_F(PlacementMode, SortedCategoriesFollowTheirSortOrder)
 	{
 		IPlacementModeModule& Module = IPlacementModeModule::Get();
 		Module.RegisterPlacementCategory(MakeCategory(TEXT("Late"), LOCTEXT("Late", "Late"), 50));
@@ -134,7 +134,7 @@ namespace
 		EXPECT_EQ(Handles, TArray<FName>({TEXT("Early"), TEXT("Middle"), TEXT("Late")}));
 	}
 
-	TEST(PlaceableItemTests, AClassAssetNamesTheItemAfterTheClass)
+	TEST_F(PlacementMode, AClassAssetNamesTheItemAfterTheClass)
 	{
 		UClass* Class = AKyroViewportCapture::StaticClass();
 		const FAssetData AssetData(Class);
@@ -152,7 +152,7 @@ namespace
 		EXPECT_TRUE(Item.DisplayName.ToString().Equals(TEXT("Kyro Viewport Capture")));
 	}
 
-	TEST(PlaceableItemTests, ClassObjectsShareTheOneClassOfClasses)
+	TEST_F(PlacementMode, ClassObjectsShareTheOneClassOfClasses)
 	{
 		UClass* ClassOfClasses = UClass::StaticClass();
 
@@ -163,7 +163,7 @@ namespace
 		EXPECT_EQ(StaticFindObject(UClass::StaticClass(), nullptr, TEXT("/Script/CoreUObject.Class")), ClassOfClasses);
 	}
 
-	TEST(PlaceableItemTests, AnInvalidAssetLeavesTheItemUnnamed)
+	TEST_F(PlacementMode, AnInvalidAssetLeavesTheItemUnnamed)
 	{
 		const FPlaceableItem Item(nullptr, FAssetData());
 

@@ -13,10 +13,10 @@
 
 namespace
 {
-	class PropertyHandleTests : public ::testing::Test
+	class PropertyHandle : public ::testing::Test
 	{
 	protected:
-		PropertyHandleTests()
+		PropertyHandle()
 			: Session(MakeOptions())
 		{
 		}
@@ -33,7 +33,7 @@ namespace
 		FHeadlessEditorSession Session;
 	};
 
-	TEST_F(PropertyHandleTests, FindPluginMatchesTheNameIgnoringCase)
+	TEST_F(PropertyHandle, FindPluginMatchesTheNameIgnoringCase)
 	{
 		IPluginManager& PluginManager = IPluginManager::Get();
 
@@ -47,7 +47,7 @@ namespace
 		EXPECT_TRUE(Plugin->GetContentDir().Equals(Plugin->GetBaseDir() / TEXT("Content")));
 	}
 
-	TEST_F(PropertyHandleTests, BoolTextImportsLikeTheEngineIgnoringCase)
+	TEST_F(PropertyHandle, BoolTextImportsLikeTheEngineIgnoringCase)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		FDetailsViewDriver Driver({Capture});
@@ -68,7 +68,7 @@ namespace
 		}
 	}
 
-	TEST_F(PropertyHandleTests, TextThatDoesNotImportLeavesTheValueAndStillSucceeds)
+	TEST_F(PropertyHandle, TextThatDoesNotImportLeavesTheValueAndStillSucceeds)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		Capture->bCaptureAlpha = true;
@@ -83,7 +83,7 @@ namespace
 		EXPECT_EQ(Capture->CaptureFrameRate, 24);
 	}
 
-	TEST_F(PropertyHandleTests, TypedTextNotifiesWhenItDiffersFromTheValuesTextEvenIfTheValueStays)
+	TEST_F(PropertyHandle, TypedTextNotifiesWhenItDiffersFromTheValuesTextEvenIfTheValueStays)
 	{
 		UKyroCaptureComponent* Capture = NewObject<UKyroCaptureComponent>(CreatePackage(TEXT("/Game/PropertyHandleProbe")));
 		Capture->bCaptureAlpha = true;
@@ -118,7 +118,7 @@ namespace
 		EXPECT_EQ(Changes, 3);
 	}
 
-	TEST_F(PropertyHandleTests, IntegerTextReadsTheLeadingDecimalNumber)
+	TEST_F(PropertyHandle, IntegerTextReadsTheLeadingDecimalNumber)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		FDetailsViewDriver Driver({Capture});
@@ -141,7 +141,7 @@ namespace
 		}
 	}
 
-	TEST_F(PropertyHandleTests, FloatTextReadsTheLeadingNumberAndIsNotClampedByMetadata)
+	TEST_F(PropertyHandle, FloatTextReadsTheLeadingNumberAndIsNotClampedByMetadata)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		FDetailsViewDriver Driver({Capture});
@@ -157,7 +157,7 @@ namespace
 		EXPECT_FLOAT_EQ(Capture->FOVAngle, 0.0f) << "A float reads 0 from text without a number";
 	}
 
-	TEST_F(PropertyHandleTests, StringAndNameTextIsTakenWhole)
+	TEST_F(PropertyHandle, StringAndNameTextIsTakenWhole)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		UKyroCGCaptureComponent* Layered = NewObject<UKyroCGCaptureComponent>(GetTransientPackage());
@@ -178,7 +178,7 @@ namespace
 		EXPECT_TRUE(Layered->CompositeLayer.IsNone());
 	}
 
-	TEST_F(PropertyHandleTests, FormattedValuesOfDisagreeingObjectsReadMultipleValues)
+	TEST_F(PropertyHandle, FormattedValuesOfDisagreeingObjectsReadMultipleValues)
 	{
 		UKyroCaptureComponent* First = MakeCapture();
 		UKyroCaptureComponent* Second = MakeCapture();
@@ -199,7 +199,7 @@ namespace
 		EXPECT_TRUE(Text.Equals(TEXT("50")));
 	}
 
-	TEST_F(PropertyHandleTests, ArrayElementsAreChildHandlesWithTheirIndexAndMembers)
+	TEST_F(PropertyHandle, ArrayElementsAreChildHandlesWithTheirIndexAndMembers)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		Capture->ShowFlagSettings = {FEngineShowFlagsSetting{TEXT("Bloom"), false}, FEngineShowFlagsSetting{TEXT("Fog"), true}};
@@ -231,7 +231,7 @@ namespace
 		EXPECT_TRUE(Capture->ShowFlagSettings[0].ShowFlagName.Equals(TEXT("Bloom")));
 	}
 
-	TEST_F(PropertyHandleTests, ChildHandlesKnowTheirParentAndLeafPropertiesHaveNoChildren)
+	TEST_F(PropertyHandle, ChildHandlesKnowTheirParentAndLeafPropertiesHaveNoChildren)
 	{
 		UKyroCaptureComponent* Capture = MakeCapture();
 		Capture->ShowFlagSettings = {FEngineShowFlagsSetting{TEXT("Bloom"), true}};

@@ -12,7 +12,7 @@
 
 namespace
 {
-	class SaveGameTests : public ::testing::Test
+	class SaveGame : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -37,7 +37,7 @@ namespace
 	};
 }
 
-TEST_F(SaveGameTests, OnlyConcreteSaveGameClassesAreCreated)
+TEST_F(SaveGame, OnlyConcreteSaveGameClassesAreCreated)
 {
 	UKyroSaveGame* Record = Cast<UKyroSaveGame>(UGameplayStatics::CreateSaveGameObject(UKyroSaveGame::StaticClass()));
 	ASSERT_NE(Record, nullptr);
@@ -46,7 +46,7 @@ TEST_F(SaveGameTests, OnlyConcreteSaveGameClassesAreCreated)
 	EXPECT_EQ(UGameplayStatics::CreateSaveGameObject(nullptr), nullptr);
 }
 
-TEST_F(SaveGameTests, LoadingMakesAFreshObjectOfTheSavedClassWithTheSavedValues)
+TEST_F(SaveGame, LoadingMakesAFreshObjectOfTheSavedClassWithTheSavedValues)
 {
 	UKyroSaveGame* Saved = MakeRecord(TEXT("2.1 \"beta\"\nnext"), true);
 	ASSERT_TRUE(UGameplayStatics::SaveGameToSlot(Saved, TEXT("Settings"), 0));
@@ -68,7 +68,7 @@ TEST_F(SaveGameTests, LoadingMakesAFreshObjectOfTheSavedClassWithTheSavedValues)
 	EXPECT_FALSE(Replaced->bSkipVersion);
 }
 
-TEST_F(SaveGameTests, SlotsOutliveTheEditorSessionThatWroteThem)
+TEST_F(SaveGame, SlotsOutliveTheEditorSessionThatWroteThem)
 {
 	ASSERT_TRUE(UGameplayStatics::SaveGameToSlot(MakeRecord(TEXT("1.4"), true), TEXT("Settings"), 0));
 	UE::Headless::DestroyEditorEngine();
@@ -79,7 +79,7 @@ TEST_F(SaveGameTests, SlotsOutliveTheEditorSessionThatWroteThem)
 	EXPECT_TRUE(Record->Version.Equals(TEXT("1.4")));
 }
 
-TEST_F(SaveGameTests, DesktopSlotsAreFilesNamedAfterTheSlotWhateverTheUserIndex)
+TEST_F(SaveGame, DesktopSlotsAreFilesNamedAfterTheSlotWhateverTheUserIndex)
 {
 	// The engine's generic save system writes SaveGames/<Slot>.sav and ignores the user index;
 	// the editor runs on Windows, whose file names ignore case.
@@ -98,7 +98,7 @@ TEST_F(SaveGameTests, DesktopSlotsAreFilesNamedAfterTheSlotWhateverTheUserIndex)
 	EXPECT_FALSE(UGameplayStatics::DoesSaveGameExist(TEXT("Settings"), 0));
 }
 
-TEST_F(SaveGameTests, EmptySlotNamesAndMissingObjectsAreRefused)
+TEST_F(SaveGame, EmptySlotNamesAndMissingObjectsAreRefused)
 {
 	EXPECT_FALSE(UGameplayStatics::SaveGameToSlot(MakeRecord(TEXT("1.0"), false), TEXT(""), 0));
 	EXPECT_FALSE(UGameplayStatics::SaveGameToSlot(nullptr, TEXT("Settings"), 0));
@@ -107,7 +107,7 @@ TEST_F(SaveGameTests, EmptySlotNamesAndMissingObjectsAreRefused)
 	EXPECT_EQ(UGameplayStatics::LoadGameFromSlot(TEXT("Missing"), 0), nullptr);
 }
 
-TEST_F(SaveGameTests, WithoutASaveSystemNothingIsSavedOrFound)
+TEST_F(SaveGame, WithoutASaveSystemNothingIsSavedOrFound)
 {
 	ASSERT_TRUE(UGameplayStatics::SaveGameToSlot(MakeRecord(TEXT("1.0"), false), TEXT("Settings"), 0));
 	UE::Headless::SetSaveGameSystemAvailable(false);

@@ -1,13 +1,10 @@
 #include "Components/SceneCaptureComponent2D.h"
 #include "Internationalization/Text.h"
-#include "Misc/Timespan.h"
 #include "ShowFlags.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
 #include <gtest/gtest.h>
-
-#include <limits>
 
 namespace
 {
@@ -110,26 +107,4 @@ TEST(ShowFlagTableDeathTest, UnknownNamesAndIndicesAreFatal)
 	EXPECT_DEATH(FEngineShowFlags(ESFIM_Game).GetSingleFlag(FEngineShowFlags::SF_FirstCustom), "should never be called");
 	FText Text;
 	EXPECT_DEATH(FEngineShowFlags::FindShowFlagDisplayName(FString(), Text), "InName.Len\\(\\) > 0");
-}
-
-TEST(Timespan, DefaultFormIsSignedHoursMinutesSecondsAndMilliseconds)
-{
-	EXPECT_TRUE(FTimespan::FromMilliseconds(0).ToString().Equals(TEXT("+00:00:00.000")));
-	EXPECT_TRUE(FTimespan::FromMilliseconds(61001).ToString().Equals(TEXT("+00:01:01.001")));
-	EXPECT_TRUE(FTimespan::FromMilliseconds(93784005).ToString().Equals(TEXT("+1.02:03:04.005")));
-	EXPECT_TRUE(FTimespan::FromMilliseconds(-1).ToString().Equals(TEXT("-00:00:00.001")));
-}
-
-TEST(Timespan, MillisecondsRoundToTheNearestTick)
-{
-	EXPECT_EQ(FTimespan::FromMilliseconds(0.00003).GetTicks(), 0);
-	EXPECT_EQ(FTimespan::FromMilliseconds(0.00007).GetTicks(), 1);
-	EXPECT_EQ(FTimespan::FromMilliseconds(1.5).GetTicks(), 15000);
-}
-
-TEST(Timespan, SpansBeyondTheTickRangeBecomeTheLowestSpan)
-{
-	const double Huge = (double)std::numeric_limits<uint64>::max();
-	EXPECT_EQ(FTimespan::FromMilliseconds(Huge).GetTicks(), ETimespan::MinTicks);
-	EXPECT_TRUE(FTimespan::FromMilliseconds(Huge).ToString().Equals(TEXT("-10675199.02:48:05.477")));
 }

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#define LOCTEXT_NAMESPACE "ToolMenusTests"
+#define LOCTEXT_NAMESPACE "ToolMenus"
 
 namespace
 {
@@ -22,7 +22,7 @@ namespace
 
 	const FName ToolMenusModuleName(TEXT("ToolMenus"));
 
-	class ToolMenusTests : public ::testing::Test
+	class ToolMenus : public ::testing::Test
 	{
 	protected:
 		virtual void TearDown() override
@@ -42,11 +42,30 @@ namespace
 			FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
 		}
 
+		/** Starts Slate and the menus and extends the level editor's user toolbar, the menu most tests fill. */
+		static UToolMenu* StartUserToolBar()
+		{
+			StartSlateAndMenus();
+			return UToolMenus::Get()->ExtendMenu(TEXT("LevelEditor.LevelEditorToolBar.User"));
+		}
+
+		static FToolMenuEntry MakeEntry(const TCHAR* Name) { return FToolMenuEntry::InitComboButton(Name, FUIAction(), FNewToolMenuChoice()); }
+
+		static TArray<FName> EntryNames(const FToolMenuSection& Section)
+		{
+			TArray<FName> Names;
+			for (const FToolMenuEntry& Entry : Section.Blocks)
+			{
+				Names.Add(Entry.Name);
+			}
+			return Names;
+		}
+
 		FMenuRegistrant First;
 		FMenuRegistrant Second;
 	};
 
-	TEST_F(ToolMenusTests, StartupCallbackRunsAtOnceWhenSlateAndMenusAreUp)
+	TEST_F(ToolMenus, StartupCallbackRunsAtOnceWhenSlateAndMenusAreUp)
 	{
 		StartSlateAndMenus();
 
@@ -58,7 +77,7 @@ namespace
 		EXPECT_EQ(First.Calls, 1) << "A callback that already ran does not run again at engine start-up";
 	}
 
-	TEST_F(ToolMenusTests, StartupCallbackWithoutSlateWaitsForPostEngineInitAndRunsOnce)
+	TEST_F(ToolMenus, StartupCallbackWithoutSlateWaitsForPostEngineInitAndRunsOnce)
 	{
 		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
 
@@ -74,7 +93,7 @@ namespace
 		EXPECT_EQ(First.Calls, 1) << "Deferred callbacks are cleared once they ran";
 	}
 
-	TEST_F(ToolMenusTests, StartupCallbackWaitsWhileTheMenusModuleIsNotLoaded)
+	TEST_F(ToolMenus, StartupCallbackWaitsWhileTheMenusModuleIsNotLoaded)
 	{
 		FSlateApplication::Create();
 
@@ -87,7 +106,7 @@ namespace
 		EXPECT_EQ(First.Calls, 1);
 	}
 
-	TEST_F(ToolMenusTests, PostEngineInitWithoutSlateKeepsTheCallbacksWaiting)
+	TEST_F(ToolMenus, PostEngineInitWithoutSlateKeepsTheCallbacksWaiting)
 	{
 		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
 		UToolMenus::RegisterStartupCallback(First.MakeCallback());
@@ -97,7 +116,7 @@ namespace
 		EXPECT_TRUE(UE::Headless::HasToolMenusStartupCallbackFor(&First));
 	}
 
-	TEST_F(ToolMenusTests, UnRegisterStartupCallbackByPointerRemovesOnlyThatObjectsCallbacks)
+	TEST_F(ToolMenus, UnRegisterStartupCallbackByPointerRemovesOnlyThatObjectsCallbacks)
 	{
 		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
 		UToolMenus::RegisterStartupCallback(First.MakeCallback());
@@ -114,7 +133,7 @@ namespace
 		EXPECT_EQ(Second.Calls, 1);
 	}
 
-	TEST_F(ToolMenusTests, UnRegisterStartupCallbackByHandleRemovesOnlyThatCallback)
+	TEST_F(ToolMenus, UnRegisterStartupCallbackByHandleRemovesOnlyThatCallback)
 	{
 		FModuleManager::Get().LoadModuleChecked(ToolMenusModuleName);
 		const FDelegateHandle FirstHandle = UToolMenus::RegisterStartupCallback(First.MakeCallback());
@@ -129,7 +148,7 @@ namespace
 		EXPECT_EQ(Second.Calls, 1);
 	}
 
-	TEST_F(ToolMenusTests, GetLoadsTheMenusModuleButTryGetAndUnregisterOwnerDoNot)
+	TEST_F(ToolMenus, GetLoadsTheMenusModuleButTryGetAndUnregisterOwnerDoNot)
 	{
 		EXPECT_EQ(UToolMenus::TryGet(), nullptr);
 		UToolMenus::UnregisterOwner(&First);
@@ -142,7 +161,7 @@ namespace
 		EXPECT_EQ(UToolMenus::TryGet(), ToolMenus);
 	}
 
-	TEST(ToolMenuOwnerTests, NameOwnersCompareByNameIgnoringCaseAndDifferFromPointerOwners)
+	TEST_F(ToolMenus, NameOwnersCompareByNameIgnoringCaseAndDifferFromPointerOwners)
 	{
 		int32 Object = 0;
 		const FToolMenuOwner NamedOwner(TEXT("CastellanProbe"));
@@ -164,32 +183,9 @@ namespace
 		EXPECT_FALSE(FToolMenuOwner(static_cast<void*>(nullptr)).IsSet());
 	}
 
-	class ToolMenuContentTests : public ToolMenusTests
+	TEST_F(ToolMenus, UnregisterOwnerRemovesOnlyThatOwnersEntriesAndEmptiedSections)
 	{
-	protected:
-		virtual void SetUp() override
-		{
-			StartSlateAndMenus();
-			Menu = UToolMenus::Get()->ExtendMenu(TEXT("LevelEditor.LevelEditorToolBar.User"));
-		}
-
-		static FToolMenuEntry MakeEntry(const TCHAR* Name) { return FToolMenuEntry::InitComboButton(Name, FUIAction(), FNewToolMenuChoice()); }
-
-		static TArray<FName> EntryNames(const FToolMenuSection& Section)
-		{
-			TArray<FName> Names;
-			for (const FToolMenuEntry& Entry : Section.Blocks)
-			{
-				Names.Add(Entry.Name);
-			}
-			return Names;
-		}
-
-		UToolMenu* Menu = nullptr;
-	};
-
-	TEST_F(ToolMenuContentTests, UnregisterOwnerRemovesOnlyThatOwnersEntriesAndEmptiedSections)
-	{
+		UToolMenu* const Menu = StartUserToolBar();
 		{
 			FToolMenuOwnerScoped Scope(&First);
 			Menu->FindOrAddSection(TEXT("Shared")).AddEntry(MakeEntry(TEXT("FirstInShared")));
@@ -209,8 +205,9 @@ namespace
 		EXPECT_NE(Menu->FindSection(TEXT("SecondEmpty")), nullptr) << "Only the unregistered owner's empty sections go";
 	}
 
-	TEST_F(ToolMenuContentTests, UnregisterOwnerByNameLeavesPointerOwnedEntries)
+	TEST_F(ToolMenus, UnregisterOwnerByNameLeavesPointerOwnedEntries)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		{
 			FToolMenuOwnerScoped Scope(TEXT("NamedProbe"));
 			Menu->FindOrAddSection(TEXT("Content")).AddEntry(MakeEntry(TEXT("Named")));
@@ -225,8 +222,9 @@ namespace
 		EXPECT_EQ(EntryNames(*Menu->FindSection(TEXT("Content"))), TArray<FName>({TEXT("Pointer")}));
 	}
 
-	TEST_F(ToolMenuContentTests, UnregisteringTheUnsetOwnerRemovesNothing)
+	TEST_F(ToolMenus, UnregisteringTheUnsetOwnerRemovesNothing)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		Menu->FindOrAddSection(TEXT("Unowned")).AddEntry(MakeEntry(TEXT("Loose")));
 
 		UToolMenus::UnregisterOwner(FToolMenuOwner());
@@ -235,8 +233,9 @@ namespace
 		EXPECT_EQ(EntryNames(*Menu->FindSection(TEXT("Unowned"))), TArray<FName>({TEXT("Loose")}));
 	}
 
-	TEST_F(ToolMenuContentTests, AddEntryKeepsTheOwnerTheEntryWasMadeWith)
+	TEST_F(ToolMenus, AddEntryKeepsTheOwnerTheEntryWasMadeWith)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		const FToolMenuEntry MadeOutsideAnyScope = MakeEntry(TEXT("Outside"));
 		{
 			FToolMenuOwnerScoped Scope(&First);
@@ -248,8 +247,9 @@ namespace
 		EXPECT_NE(Menu->FindSection(TEXT("Content"))->FindEntry(TEXT("Outside")), nullptr);
 	}
 
-	TEST_F(ToolMenuContentTests, AddEntryWithATakenNameReplacesThatEntryInPlace)
+	TEST_F(ToolMenus, AddEntryWithATakenNameReplacesThatEntryInPlace)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		FToolMenuSection& Section = Menu->FindOrAddSection(TEXT("Content"));
 		Section.AddEntry(MakeEntry(TEXT("Alpha")));
 		Section.AddEntry(MakeEntry(TEXT("Beta")));
@@ -262,8 +262,9 @@ namespace
 		EXPECT_EQ(Section.Blocks[0].Label.Get().ToString(), TEXT("Replaced"));
 	}
 
-	TEST_F(ToolMenuContentTests, UnnamedEntriesAreAlwaysAppended)
+	TEST_F(ToolMenus, UnnamedEntriesAreAlwaysAppended)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		FToolMenuSection& Section = Menu->FindOrAddSection(TEXT("Content"));
 		Section.AddEntry(MakeEntry(TEXT("")));
 		Section.AddEntry(MakeEntry(TEXT("")));
@@ -271,8 +272,9 @@ namespace
 		EXPECT_EQ(Section.Blocks.Num(), 2);
 	}
 
-	TEST_F(ToolMenuContentTests, FindOrAddSectionReturnsTheExistingSection)
+	TEST_F(ToolMenus, FindOrAddSectionReturnsTheExistingSection)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		FToolMenuSection& Added = Menu->FindOrAddSection(TEXT("Content"));
 		Added.AddEntry(MakeEntry(TEXT("Kept")));
 
@@ -283,8 +285,9 @@ namespace
 		EXPECT_EQ(Found.Blocks.Num(), 1);
 	}
 
-	TEST_F(ToolMenuContentTests, AddSectionWithAnExistingNameChangesTheLabelOnlyWhenOneIsGiven)
+	TEST_F(ToolMenus, AddSectionWithAnExistingNameChangesTheLabelOnlyWhenOneIsGiven)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		Menu->AddSection(TEXT("Content"), LOCTEXT("Original", "Original"));
 
 		Menu->AddSection(TEXT("Content"));
@@ -295,16 +298,18 @@ namespace
 		EXPECT_EQ(Menu->Sections.Num(), 1);
 	}
 
-	TEST_F(ToolMenuContentTests, UnnamedSectionsAreNeverMerged)
+	TEST_F(ToolMenus, UnnamedSectionsAreNeverMerged)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		Menu->AddSection(NAME_None);
 		Menu->AddSection(NAME_None);
 
 		EXPECT_EQ(Menu->Sections.Num(), 2);
 	}
 
-	TEST_F(ToolMenuContentTests, SectionsBelongToTheOwnerCurrentWhenTheyWereAdded)
+	TEST_F(ToolMenus, SectionsBelongToTheOwnerCurrentWhenTheyWereAdded)
 	{
+		UToolMenu* const Menu = StartUserToolBar();
 		{
 			FToolMenuOwnerScoped Scope(&First);
 			Menu->AddSection(TEXT("Owned"));
@@ -315,8 +320,9 @@ namespace
 		EXPECT_FALSE(Menu->FindSection(TEXT("Unowned"))->Owner.IsSet());
 	}
 
-	TEST_F(ToolMenuContentTests, InitComboButtonFillsTheToolbarComboFields)
+	TEST_F(ToolMenus, InitComboButtonFillsTheToolbarComboFields)
 	{
+		StartUserToolBar();
 		bool bMenuMade = false;
 		const FNewToolMenuChoice Generator(FNewToolMenuDelegate::CreateLambda([&bMenuMade](UToolMenu*)
 			{ bMenuMade = true; }));
@@ -345,8 +351,9 @@ namespace
 		EXPECT_TRUE(bMenuMade);
 	}
 
-	TEST_F(ToolMenuContentTests, InitComboButtonLeavesOverridesUnsetByDefault)
+	TEST_F(ToolMenus, InitComboButtonLeavesOverridesUnsetByDefault)
 	{
+		StartUserToolBar();
 		const FToolMenuEntry Entry = MakeEntry(TEXT("Plain"));
 
 		EXPECT_FALSE(Entry.Label.IsSet());
@@ -356,12 +363,13 @@ namespace
 		EXPECT_FALSE(Entry.Owner.IsSet());
 	}
 
-	class ToolMenusDeathTest : public ToolMenuContentTests
+	class ToolMenusDeathTest : public ToolMenus
 	{
 	};
 
 	TEST_F(ToolMenusDeathTest, EndingAnOwnerScopeThatIsNotTheInnermostIsFatal)
 	{
+		StartSlateAndMenus();
 		EXPECT_DEATH(
 			{
 				FToolMenuOwnerScoped* Outer = new FToolMenuOwnerScoped(&First);

@@ -18,7 +18,7 @@
 
 namespace
 {
-	class TransactionTests : public ::testing::Test
+	class Transaction : public ::testing::Test
 	{
 	protected:
 		virtual void SetUp() override
@@ -40,7 +40,7 @@ namespace
 	};
 }
 
-TEST_F(TransactionTests, OnlyTheOutermostScopeRecordsAnUndoStep)
+TEST_F(Transaction, OnlyTheOutermostScopeRecordsAnUndoStep)
 {
 	{
 		FScopedTransaction Outer(NSLOCTEXT("Tests", "Outer", "Resize feed"));
@@ -66,7 +66,7 @@ TEST_F(TransactionTests, OnlyTheOutermostScopeRecordsAnUndoStep)
 	EXPECT_TRUE(Transaction->ContainsObject(Target->GetOutermost()));
 }
 
-TEST_F(TransactionTests, BeginAndEndCountTheOpenLevels)
+TEST_F(Transaction, BeginAndEndCountTheOpenLevels)
 {
 	EXPECT_EQ(GEditor->BeginTransaction(NSLOCTEXT("Tests", "A", "A")), 0);
 	EXPECT_EQ(GEditor->BeginTransaction(NSLOCTEXT("Tests", "B", "B")), 1);
@@ -81,7 +81,7 @@ TEST_F(TransactionTests, BeginAndEndCountTheOpenLevels)
 	EXPECT_EQ(Trans()->GetQueueLength(), 1);
 }
 
-TEST_F(TransactionTests, TransactionsThatChangeNothingLeaveNoUndoStep)
+TEST_F(Transaction, TransactionsThatChangeNothingLeaveNoUndoStep)
 {
 	{
 		FScopedTransaction Empty(NSLOCTEXT("Tests", "Empty", "Nothing"));
@@ -104,7 +104,7 @@ TEST_F(TransactionTests, TransactionsThatChangeNothingLeaveNoUndoStep)
 	EXPECT_EQ(Trans()->GetQueueLength(), 1);
 }
 
-TEST_F(TransactionTests, UndoRestoresModifiedPropertiesAndThePackageState)
+TEST_F(Transaction, UndoRestoresModifiedPropertiesAndThePackageState)
 {
 	UPackage* Package = Target->GetOutermost();
 	Package->SetDirtyFlag(false);
@@ -129,7 +129,7 @@ TEST_F(TransactionTests, UndoRestoresModifiedPropertiesAndThePackageState)
 	EXPECT_FALSE(GEditor->UndoTransaction());
 }
 
-TEST_F(TransactionTests, ObjectsWithoutTheTransactionalFlagAreNotRecorded)
+TEST_F(Transaction, ObjectsWithoutTheTransactionalFlagAreNotRecorded)
 {
 	UTextureRenderTarget2D* Plain = NewObject<UTextureRenderTarget2D>(CreatePackage(TEXT("/Game/Stage/Plain")), TEXT("Plain"));
 	{
@@ -140,7 +140,7 @@ TEST_F(TransactionTests, ObjectsWithoutTheTransactionalFlagAreNotRecorded)
 	EXPECT_EQ(Trans()->GetQueueLength(), 0);
 }
 
-TEST_F(TransactionTests, UndoRemovesActorsSpawnedInTheTransaction)
+TEST_F(Transaction, UndoRemovesActorsSpawnedInTheTransaction)
 {
 	AActor* Before = World->SpawnActor<AActor>();
 	AActor* Spawned = nullptr;
@@ -160,7 +160,7 @@ TEST_F(TransactionTests, UndoRemovesActorsSpawnedInTheTransaction)
 	EXPECT_EQ(GEditor->GetSelectedActors()->Num(), 0);
 }
 
-TEST_F(TransactionTests, AScopeAskedNotToTransactRecordsNothing)
+TEST_F(Transaction, AScopeAskedNotToTransactRecordsNothing)
 {
 	{
 		FScopedTransaction Transaction(NSLOCTEXT("Tests", "No", "No"), false);
@@ -173,7 +173,7 @@ TEST_F(TransactionTests, AScopeAskedNotToTransactRecordsNothing)
 	EXPECT_EQ(Target->SizeX, 2);
 }
 
-TEST_F(TransactionTests, CancellingDropsTheWholeTransactionEvenFromANestedScope)
+TEST_F(Transaction, CancellingDropsTheWholeTransactionEvenFromANestedScope)
 {
 	{
 		FScopedTransaction Outer(NSLOCTEXT("Tests", "Outer", "Outer"));
@@ -190,7 +190,7 @@ TEST_F(TransactionTests, CancellingDropsTheWholeTransactionEvenFromANestedScope)
 	EXPECT_FALSE(Trans()->IsActive());
 }
 
-TEST_F(TransactionTests, ANewTransactionDropsUndoneStepsUnlessItIsCancelled)
+TEST_F(Transaction, ANewTransactionDropsUndoneStepsUnlessItIsCancelled)
 {
 	{
 		FScopedTransaction First(NSLOCTEXT("Tests", "First", "First"));
@@ -218,7 +218,7 @@ TEST_F(TransactionTests, ANewTransactionDropsUndoneStepsUnlessItIsCancelled)
 	EXPECT_TRUE(Trans()->GetTransaction(0)->GetTitle().ToString().Equals(TEXT("Second")));
 }
 
-TEST_F(TransactionTests, UndoIsRefusedWhileATransactionIsOpen)
+TEST_F(Transaction, UndoIsRefusedWhileATransactionIsOpen)
 {
 	{
 		FScopedTransaction First(NSLOCTEXT("Tests", "First", "First"));
@@ -231,7 +231,7 @@ TEST_F(TransactionTests, UndoIsRefusedWhileATransactionIsOpen)
 	EXPECT_EQ(Target->SizeX, 10);
 }
 
-TEST_F(TransactionTests, SelectionFollowsSelectActorAndSelectNone)
+TEST_F(Transaction, SelectionFollowsSelectActorAndSelectNone)
 {
 	AActor* First = World->SpawnActor<AActor>();
 	AActor* Second = World->SpawnActor<AActor>();
@@ -254,7 +254,7 @@ TEST_F(TransactionTests, SelectionFollowsSelectActorAndSelectNone)
 	EXPECT_EQ(Selection->Num(), 0);
 }
 
-TEST_F(TransactionTests, DeselectAllFiltersByClassAndDestroyedActorsReadAsNull)
+TEST_F(Transaction, DeselectAllFiltersByClassAndDestroyedActorsReadAsNull)
 {
 	AActor* Actor = World->SpawnActor<AActor>();
 	USelection* Selection = GEditor->GetSelectedObjects();

@@ -212,7 +212,7 @@ TEST_F(UICommand, MappingANullCommandEnsuresAndMapsNothing)
 	EXPECT_FALSE(List->IsActionMapped(TSharedPtr<const FUICommandInfo>()));
 }
 
-TEST(UIActionTests, ADefaultActionCanExecuteButRunsNothing)
+TEST_F(UICommand, ADefaultActionCanExecuteButRunsNothing)
 {
 	const FUIAction Empty;
 	EXPECT_TRUE(Empty.CanExecute());

@@ -100,6 +100,30 @@ TEST(ModuleLifecycle, StartupTellsThePropertyEditorOnceThatCustomisationsChanged
 	EXPECT_EQ(UE::Headless::GetCustomizationModuleChangedCount(), 1);
 }
 
+TEST(ModuleLifecycle, CompositionCaptureIsCustomisedOnlyOnceTheEngineLoopHasStartedAndTheModuleIsLoaded)
+{
+	for (const bool bComposureLoaded : {true, false})
+	{
+		FHeadlessEditorOptions Options;
+		Options.bKyroComposureLoaded = bComposureLoaded;
+		Options.bStartEditorModule = false;
+		FHeadlessEditorSession Session(Options);
+		Session.StartEditorModule();
+
+		const FPropertyEditorModule& PropertyEditor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
+		const FName CGClass(TEXT("KyroCGCaptureComponent"));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("KyroCaptureComponent"))));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("Kyro360CaptureComponent"))));
+		EXPECT_TRUE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(FName(TEXT("KyroMediaOutput"))));
+		EXPECT_FALSE(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass));
+		const int32 ChangesBefore = UE::Headless::GetCustomizationModuleChangedCount();
+
+		Session.FinishEngineInitialisation();
+		EXPECT_EQ(PropertyEditor.GetClassNameToDetailLayoutNameMap().Contains(CGClass), bComposureLoaded);
+		EXPECT_EQ(UE::Headless::GetCustomizationModuleChangedCount(), ChangesBefore);
+	}
+}
+
 TEST(ModuleLifecycle, ShutdownLeavesNothingOfTheModuleRegistered)
 {
 	FHeadlessEditorSession Session;

@@ -14,6 +14,7 @@
 #include "WizardHarness.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace
 {
@@ -26,6 +27,12 @@ namespace
 		UClass* (*GetRefusedClass)();
 		const TCHAR* CaptureType;
 	};
+
+	/** Names the refused class in test listings rather than dumping the struct's bytes. */
+	void PrintTo(const FRefusal& Refusal, std::ostream* Stream)
+	{
+		*Stream << Refusal.TestName;
+	}
 
 	const FRefusal Refusals[] = {
 		{"CineCam", &AKyroCineCamCapture::StaticClass, TEXT("Kyro Cinecam")},
