@@ -379,6 +379,21 @@ TEST(ViewCommands, ControlCharactersInANamePrintEscaped)
 	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage\\u009B' created!\" at "));
 }
 
+TEST(ViewCommands, ControlCharactersInASenderNamePrintEscaped)
+{
+	// Sender names come from the machine: a live one picked as the receiver's sender, and one gone.
+	const FProgramRun Live = RunCastellanHeadless({"show", "spout-receiver", "--sender", "Cam\tB", "--sender", "Cam A", "--stored", "Cam\tB"});
+	EXPECT_EQ(Live.ExitCode, 0);
+	EXPECT_EQ(Live.Err, "");
+	EXPECT_FALSE(ContainsRawControlCharacters(Live.Out));
+	EXPECT_TRUE(Contains(Live.Out, "SComboBox<TSharedPtr<FString>> \"Cam\\tB\" at ")) << Live.Out;
+
+	const FProgramRun Gone = RunCastellanHeadless({"show", "ndi-receiver", "--stored", "\x1b[31mRed"});
+	EXPECT_EQ(Gone.ExitCode, 0);
+	EXPECT_FALSE(ContainsRawControlCharacters(Gone.Out));
+	EXPECT_TRUE(Contains(Gone.Out, "SComboBox<TSharedPtr<FString>> \"\\x1B[31mRed [lost]\" at ")) << Gone.Out;
+}
+
 TEST(ViewCommands, AViewWhoseStateIsNotReachedSaysWhyAndExits1)
 {
 	const FProgramRun Failed = RunCastellanHeadless({"show", "wizard-created", "--name", "Stage/"});
