@@ -224,10 +224,15 @@ TEST(ViewCommands, ListNamesEveryViewWithWhatItShows)
 	EXPECT_EQ(Run.ExitCode, 0);
 	EXPECT_EQ(Run.Err, "");
 	EXPECT_EQ(Run.Out,
-		"wizard           the Livestream Wizard tab as it opens from the toolbar, or filled in before Create\n"
-		"wizard-warnings  the wizard after Create with no output ticked and no name: both warning lines\n"
-		"wizard-created   the wizard's done page after it created a livestream\n"
-		"wizard-failed    the wizard's done page after a create failed, offering to try again\n");
+		"wizard             the Livestream Wizard tab as it opens from the toolbar, or filled in before Create\n"
+		"wizard-warnings    the wizard after Create with no output ticked and no name: both warning lines\n"
+		"wizard-created     the wizard's done page after it created a livestream\n"
+		"wizard-failed      the wizard's done page after a create failed, offering to try again\n"
+		"spout-receiver     a Spout receiver's details: the sender picker on a stored sender that is no longer live\n"
+		"ndi-receiver       an NDI receiver's details: the sender picker on a stored source that is no longer live\n"
+		"screen-capture     a screen capture's details: the capture type and the picker of its sources\n"
+		"media-output       a media output's details: the encoders offer, the running time and the Start and Stop buttons\n"
+		"capture-component  a capture component's details with its show-flag groups open\n");
 }
 
 TEST(ViewCommands, ShowPrintsWhatEachViewShows)
@@ -372,6 +377,21 @@ TEST(ViewCommands, ControlCharactersInANamePrintEscaped)
 	EXPECT_EQ(Run.ExitCode, 0);
 	EXPECT_FALSE(ContainsRawControlCharacters(Run.Out));
 	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage\\u009B' created!\" at "));
+}
+
+TEST(ViewCommands, ControlCharactersInASenderNamePrintEscaped)
+{
+	// Sender names come from the machine: a live one picked as the receiver's sender, and one gone.
+	const FProgramRun Live = RunCastellanHeadless({"show", "spout-receiver", "--sender", "Cam\tB", "--sender", "Cam A", "--stored", "Cam\tB"});
+	EXPECT_EQ(Live.ExitCode, 0);
+	EXPECT_EQ(Live.Err, "");
+	EXPECT_FALSE(ContainsRawControlCharacters(Live.Out));
+	EXPECT_TRUE(Contains(Live.Out, "SComboBox<TSharedPtr<FString>> \"Cam\\tB\" at ")) << Live.Out;
+
+	const FProgramRun Gone = RunCastellanHeadless({"show", "ndi-receiver", "--stored", "\x1b[31mRed"});
+	EXPECT_EQ(Gone.ExitCode, 0);
+	EXPECT_FALSE(ContainsRawControlCharacters(Gone.Out));
+	EXPECT_TRUE(Contains(Gone.Out, "SComboBox<TSharedPtr<FString>> \"\\x1B[31mRed [lost]\" at ")) << Gone.Out;
 }
 
 TEST(ViewCommands, AViewWhoseStateIsNotReachedSaysWhyAndExits1)

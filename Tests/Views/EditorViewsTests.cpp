@@ -22,7 +22,7 @@ TEST(EditorViews, TheViewsAreListedInAStableOrder)
 	{
 		Names.Add(View.Name);
 	}
-	EXPECT_EQ(Names, TArray<FString>({TEXT("wizard"), TEXT("wizard-warnings"), TEXT("wizard-created"), TEXT("wizard-failed")}));
+	EXPECT_EQ(Names, TArray<FString>({TEXT("wizard"), TEXT("wizard-warnings"), TEXT("wizard-created"), TEXT("wizard-failed"), TEXT("spout-receiver"), TEXT("ndi-receiver"), TEXT("screen-capture"), TEXT("media-output"), TEXT("capture-component")}));
 
 	ASSERT_NE(FEditorViews::Find(TEXT("wizard-created")), nullptr);
 	EXPECT_EQ(FEditorViews::Find(TEXT("wizard-created"))->Name, TEXT("wizard-created"));
