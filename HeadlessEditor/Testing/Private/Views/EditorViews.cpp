@@ -1,5 +1,6 @@
 #include "Views/EditorViews.h"
 
+#include "Views/PanelViews.h"
 #include "Views/WizardViews.h"
 
 const TArray<FEditorView>& FEditorViews::GetAll()
@@ -8,6 +9,7 @@ const TArray<FEditorView>& FEditorViews::GetAll()
 	{
 		TArray<FEditorView> All;
 		All.Append(MakeLivestreamWizardViews());
+		All.Append(MakePanelViews());
 		return All;
 	}();
 	return Views;
