@@ -3,10 +3,12 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateImageBrush.h"
 #include "Framework/Application/SlateApplication.h"
+#include "HeadlessMenus.h"
 #include "HeadlessSlateRenderer.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Input/SComboButton.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
@@ -103,6 +105,42 @@ TEST_F(ViewOutline, CheckBoxesSayTheirState)
 	EXPECT_TRUE(Outline.find("\nSCheckBox \"A\" checked at 0,0 ") != std::string::npos || Outline.rfind("SCheckBox \"A\" checked at 0,0 ", 0) == 0) << Outline;
 	EXPECT_NE(Outline.find("\nSCheckBox \"B\" unchecked at 0,18 "), std::string::npos) << Outline;
 	EXPECT_NE(Outline.find("\nSCheckBox undetermined at 0,36 "), std::string::npos) << Outline;
+}
+
+TEST_F(ViewOutline, OpenDropDownsFollowTheTreeAndAToggleEntrySaysItsState)
+{
+	// clang-format off
+	const TSharedRef<SWidget> Entry = SNew(SButton)
+		[
+			SNew(SHorizontalBox)
+			+ SHorizontalBox::Slot().AutoWidth()[SNew(SCheckBox).IsChecked(ECheckBoxState::Checked)]
+			+ SHorizontalBox::Slot().AutoWidth()[MakeText(TEXT("Toggle"))]
+		];
+	const TSharedRef<SComboButton> Combo = SNew(SComboButton)
+		.ButtonContent()[MakeText(TEXT("Open"))]
+		.MenuContent()
+		[
+			SNew(SVerticalBox)
+			+ SVerticalBox::Slot().AutoHeight()[Entry]
+			+ SVerticalBox::Slot().AutoHeight()[SNew(SButton).Text(FText::FromString(TEXT("Plain")))]
+		];
+	// clang-format on
+	const TSharedRef<SWidget> Window = UE::Headless::MakePopupLayer(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)[Combo]);
+	EXPECT_EQ(Describe(Window, FIntPoint(200, 120)).find("Toggle"), std::string::npos);
+
+	Combo->SetIsOpen(true);
+
+	const std::string Outline = Describe(Window, FIntPoint(200, 120));
+	const size_t Button = Outline.find("\n  SComboButton \"Open\" at 0,0 ");
+	const size_t Toggle = Outline.find("\n  SButton \"Toggle\" checked at ");
+	EXPECT_NE(Button, std::string::npos) << Outline;
+	EXPECT_NE(Toggle, std::string::npos) << Outline;
+	EXPECT_LT(Button, Toggle) << Outline;
+	// A button without a box says no state.
+	EXPECT_NE(Outline.find("\n  SButton \"Plain\" at "), std::string::npos) << Outline;
+	// Once closed, the drop-down is gone from the outline as from the picture.
+	Combo->SetIsOpen(false);
+	EXPECT_EQ(Describe(Window, FIntPoint(200, 120)).find("Toggle"), std::string::npos);
 }
 
 TEST_F(ViewOutline, ImagesShowWhenTheyPaintNamedByTheirFile)

@@ -51,4 +51,11 @@ namespace UE::Headless
 	 * anchor or to its right, above everything else; menus opened inside those are drawn too.
 	 */
 	SLATE_API TSharedRef<SWidget> MakePopupLayer(const TSharedRef<SWidget>& Root);
+
+	/**
+	 * The menu windows a layer made by MakePopupLayer drew over its content when last painted, in the
+	 * order drawn (a sub-menu after the menu it opened from), laid out where they were drawn; empty for
+	 * any other widget.
+	 */
+	SLATE_API TArray<TSharedRef<SWidget>> GetDrawnPopupWindows(const TSharedRef<SWidget>& Widget);
 }

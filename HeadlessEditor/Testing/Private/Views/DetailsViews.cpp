@@ -296,6 +296,19 @@ namespace
 		}
 		return ShowInDetailsTab(MoveTemp(Session), Driver, Problem, WidePanelWidth);
 	}
+
+	TArray<FEditorViewOption> MakeScreenCaptureOptions(const TCHAR* DefaultType)
+	{
+		return {{TypeOption, TEXT("TYPE"), TEXT("the capture type to pick"), {TEXT("Monitor"), TEXT("Window")}, {DefaultType}, false},
+			{MonitorOption, TEXT("NAME"), TEXT("a monitor of the machine; give it again for more"), {}, {TEXT("Main Display"), TEXT("Side Display")}, true},
+			{WindowOption, TEXT("NAME"), TEXT("a window open on the machine; give it again for more"), {}, {TEXT("Stream Overlay"), TEXT("Scene Preview")}, true}};
+	}
+
+	TArray<FEditorViewOption> MakeMediaOutputOptions(const TCHAR* DefaultStarted, const TCHAR* DefaultEncoderRow)
+	{
+		return {{StartedOption, TEXT("STARTED"), TEXT("whether Start was pressed, the output running since"), {Yes, No}, {DefaultStarted}, false},
+			{EncoderRowOption, TEXT("ROW"), TEXT("whether the runtime offers to enable the hardware encoders plugin"), {Shown, Hidden}, {DefaultEncoderRow}, false}};
+	}
 }
 
 TArray<FEditorView> MakeDetailsViews()
@@ -309,15 +322,10 @@ TArray<FEditorView> MakeDetailsViews()
 		{MakeSenderOption({TEXT("STUDIO (Stage Left)"), TEXT("STUDIO (Stage Right)")}), MakeStoredOption(TEXT("STUDIO (Backstage)"))},
 		[](const FEditorViewArguments& Arguments)
 		{ return ShowReceiver<AKyroNDIReceiverManager>(Arguments, &HeadlessSourceLists::SetNDISourceNames); }});
-	Views.Add({TEXT("screen-capture"), TEXT("a screen capture's details: the capture type and the picker of its sources"),
-		{{TypeOption, TEXT("TYPE"), TEXT("the capture type to pick"), {TEXT("Monitor"), TEXT("Window")}, {TEXT("Monitor")}, false},
-			{MonitorOption, TEXT("NAME"), TEXT("a monitor of the machine; give it again for more"), {}, {TEXT("Main Display"), TEXT("Side Display")}, true},
-			{WindowOption, TEXT("NAME"), TEXT("a window open on the machine; give it again for more"), {}, {TEXT("Stream Overlay"), TEXT("Scene Preview")}, true}},
-		&ShowScreenCapture});
-	Views.Add({TEXT("media-output"), TEXT("a media output's details: the encoders offer, the running time and the Start and Stop buttons"),
-		{{StartedOption, TEXT("STARTED"), TEXT("whether Start was pressed, the output running since"), {Yes, No}, {Yes}, false},
-			{EncoderRowOption, TEXT("ROW"), TEXT("whether the runtime offers to enable the hardware encoders plugin"), {Shown, Hidden}, {Shown}, false}},
-		&ShowMediaOutput});
+	Views.Add({TEXT("screen-capture"), TEXT("a screen capture's details: the capture type and the picker of its sources"), MakeScreenCaptureOptions(TEXT("Monitor")), &ShowScreenCapture});
+	Views.Add({TEXT("screen-capture-window"), TEXT("a screen capture's details on the window type: the picker of open windows"), MakeScreenCaptureOptions(TEXT("Window")), &ShowScreenCapture});
+	Views.Add({TEXT("media-output"), TEXT("a media output's details: the encoders offer, the running time and the Start and Stop buttons"), MakeMediaOutputOptions(Yes, Shown), &ShowMediaOutput});
+	Views.Add({TEXT("media-output-stopped"), TEXT("a media output's details before Start, with the hardware encoders already enabled"), MakeMediaOutputOptions(No, Hidden), &ShowMediaOutput});
 	Views.Add({TEXT("capture-component"), TEXT("a capture component's details with its show-flag groups open"),
 		{{ComponentsOption, TEXT("COUNT"), TEXT("how many components are selected; two disagree on the Fog flag"), {TEXT("1"), TEXT("2")}, {TEXT("2")}, false}},
 		&ShowCaptureComponents});

@@ -1,6 +1,7 @@
 #include "Views/EditorViews.h"
 
 #include "Views/DetailsViews.h"
+#include "Views/PanelViews.h"
 #include "Views/WizardViews.h"
 
 const TArray<FEditorView>& FEditorViews::GetAll()
@@ -9,6 +10,7 @@ const TArray<FEditorView>& FEditorViews::GetAll()
 	{
 		TArray<FEditorView> All;
 		All.Append(MakeLivestreamWizardViews());
+		All.Append(MakePanelViews());
 		All.Append(MakeDetailsViews());
 		return All;
 	}();

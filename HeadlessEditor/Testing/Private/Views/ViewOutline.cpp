@@ -1,5 +1,6 @@
 #include "Views/ViewOutline.h"
 
+#include "HeadlessMenus.h"
 #include "HeadlessTextures.h"
 #include "Input/HittestGrid.h"
 #include "Layout/Geometry.h"
@@ -99,6 +100,11 @@ namespace
 			if (bShown && !IsOneOf(*Widget, ControlTypes))
 			{
 				DescribeChildren(Widget, Depth + 1);
+				// Drop-downs drawn over the tree, where the editor opens them in windows of their own.
+				for (const TSharedRef<SWidget>& Window : UE::Headless::GetDrawnPopupWindows(Widget))
+				{
+					Describe(Window, Depth + 1);
+				}
 			}
 		}
 
@@ -130,15 +136,27 @@ namespace
 					Content += Quote(Text.GetValue());
 				}
 			}
-			if (Widget->GetTypeAsString().Equals(TEXT("SCheckBox")))
+			if (const TSharedPtr<SCheckBox> CheckBox = FindCheckBox(Widget))
 			{
-				Content += DescribeCheckState(StaticCastSharedRef<SCheckBox>(Widget)->GetCheckedState());
+				Content += DescribeCheckState(CheckBox->GetCheckedState());
 			}
 			if (!Image.File.IsEmpty())
 			{
 				Content += TEXT(" ") + FPrintableText::Escape(Image.File);
 			}
 			return Content;
+		}
+
+		/** The check box whose state the widget shows: its own, or a button's shown box (a menu's toggle entry). */
+		static TSharedPtr<SCheckBox> FindCheckBox(const TSharedRef<SWidget>& Widget)
+		{
+			const FString Type = Widget->GetTypeAsString();
+			if (Type.Equals(TEXT("SCheckBox")))
+			{
+				return StaticCastSharedRef<SCheckBox>(Widget);
+			}
+			const TSharedPtr<SCheckBox> Inner = Type.Equals(TEXT("SButton")) ? FWidgetDriver::Find<SCheckBox>(Widget, TEXT("SCheckBox")) : nullptr;
+			return Inner.IsValid() && FWidgetDriver::IsShown(Inner.ToSharedRef()) ? Inner : nullptr;
 		}
 
 		static FString Quote(const FString& Text)

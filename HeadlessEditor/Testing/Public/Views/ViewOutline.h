@@ -13,7 +13,10 @@ class SWidget;
  *
  * - Text blocks, editable texts, buttons, check boxes, combo boxes and scroll bars show as one line
  *   each, with the text they show (escaped as FPrintableText does) and a check box's state; their
- *   inner parts are not listed.
+ *   inner parts are not listed. A button that shows a check box, as a menu's toggle entry, says its
+ *   state too.
+ * - Drop-downs a pop-up layer (UE::Headless::MakePopupLayer) drew over the tree follow its content,
+ *   as children of the layer.
  * - Images show when they paint with some opacity, named by their picture file if they have one.
  * - Panels that only arrange their children (boxes, overlays, borders) are left out: their children
  *   show in their place. Any other widget (a tab, the module's own widgets) shows as a heading.

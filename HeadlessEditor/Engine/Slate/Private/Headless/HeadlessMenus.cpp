@@ -165,3 +165,12 @@ TSharedRef<SWidget> UE::Headless::MakePopupLayer(const TSharedRef<SWidget>& Root
 {
 	return SNew(SHeadlessPopupLayer)[Root];
 }
+
+TArray<TSharedRef<SWidget>> UE::Headless::GetDrawnPopupWindows(const TSharedRef<SWidget>& Widget)
+{
+	if (Widget->GetType() != FName(TEXT("SHeadlessPopupLayer")))
+	{
+		return {};
+	}
+	return StaticCastSharedRef<SHeadlessPopupLayer>(Widget)->GetDrawnWindows();
+}

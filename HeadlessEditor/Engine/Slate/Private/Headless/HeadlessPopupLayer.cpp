@@ -99,6 +99,16 @@ TSharedRef<SWidget> SHeadlessPopupLayer::FindOrMakeWindow(const TSharedRef<SMenu
 	return Window;
 }
 
+TArray<TSharedRef<SWidget>> SHeadlessPopupLayer::GetDrawnWindows() const
+{
+	TArray<TSharedRef<SWidget>> Windows;
+	for (const FPopup& Popup : Popups)
+	{
+		Windows.Add(Popup.Window.ToSharedRef());
+	}
+	return Windows;
+}
+
 int32 SHeadlessPopupLayer::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
 {
 	int32 MaxLayerId = SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);

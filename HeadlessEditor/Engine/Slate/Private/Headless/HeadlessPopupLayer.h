@@ -22,6 +22,9 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
+	/** The menu windows drawn at the last paint, in the order drawn. */
+	TArray<TSharedRef<SWidget>> GetDrawnWindows() const;
+
 	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
 private:
