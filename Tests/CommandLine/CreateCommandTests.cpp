@@ -13,7 +13,7 @@ namespace
 	void ExpectFailure(const FProgramRun& Run, const std::string& DoneText, const std::string& Reason)
 	{
 		EXPECT_EQ(Run.ExitCode, 1);
-		EXPECT_TRUE(Contains(Run.Out, "STextBlock \"" + DoneText + "\" [Visible, enabled]\n"));
+		EXPECT_TRUE(Contains(Run.Out, "STextBlock \"" + DoneText + "\" at "));
 		EXPECT_TRUE(EndsWith(Run.Out, NothingBuilt));
 		EXPECT_EQ(Run.Err, Program + std::string("the wizard failed to create the livestream; it shows \"") + DoneText + "\"\n  " + Reason + "\n");
 	}
@@ -27,7 +27,7 @@ TEST(CreateCommand, ARefusedCreateExits1WithTheWarningLines)
 											  "  ! Select at least one output type.\n"
 											  "  ! LivestreamWizard Name cannot be empty.\n"));
 	// The report still shows the wizard's steps with the warnings, and an untouched level.
-	EXPECT_TRUE(Contains(Both.Out, "STextBlock \"! Select at least one output type.\" [Visible, enabled]\n"));
+	EXPECT_TRUE(Contains(Both.Out, "STextBlock \"! Select at least one output type.\" at "));
 	EXPECT_TRUE(EndsWith(Both.Out, NothingBuilt));
 
 	const FProgramRun NoOutput = RunCastellanHeadless({"create", "--name", "Stage"});
@@ -94,7 +94,6 @@ TEST(CreateCommand, ANonLatinNamePrintsAsUtf8)
 	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "Spout", "--name", Japanese});
 
 	EXPECT_EQ(Run.ExitCode, 0);
-	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"" + Japanese + "\" [Visible, enabled]\n"));
 	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream '" + Japanese + "' created!\""));
 	EXPECT_TRUE(Contains(Run.Out, "    sender \"" + Japanese + "\" (standalone \"" + Japanese + "_Standalone\"), enabled, render target /Game/LivestreamWizard/" + Japanese + "." + Japanese + "\n"));
 }
@@ -107,7 +106,6 @@ TEST(CreateCommand, ControlCharactersInANamePrintEscaped)
 
 	EXPECT_EQ(Run.ExitCode, 0);
 	EXPECT_FALSE(ContainsRawControlCharacters(Run.Out));
-	EXPECT_TRUE(Contains(Run.Out, "SEditableText \"Main\\tStage[31m\\u009BEnd\""));
 	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'Main\\tStage[31m\\u009BEnd' created!\""));
 	// The asset tools replace the tab and the bracket; CSI stays in the sender's name.
 	EXPECT_TRUE(Contains(Run.Out, "    sender \"Main_Stage_31m\\u009BEnd\" (standalone \"Main_Stage_31m\\u009BEnd_Standalone\")"));
@@ -124,5 +122,5 @@ TEST(CreateCommand, ABackslashInANamePrintsDoubled)
 	const FProgramRun Run = RunCastellanHeadless({"create", "--output", "NDI", "--name", "A\\tB"});
 
 	EXPECT_EQ(Run.ExitCode, 0);
-	EXPECT_TRUE(Contains(Run.Out, "SEditableTextBox \"A\\\\tB\" [Visible, enabled]\n"));
+	EXPECT_TRUE(Contains(Run.Out, "STextBlock \"Livestream 'A\\\\tB' created!\" at "));
 }

@@ -8,7 +8,7 @@
 #include "PrintableText.h"
 #include "Report.h"
 #include "Views/EditorViews.h"
-#include "WidgetDriver.h"
+#include "Views/ViewOutline.h"
 #include "Widgets/Docking/SDockTab.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ namespace
 		FHeadlessEditorSession Session;
 		Print(CastellanReport::DescribeRegistrations());
 		Print(TEXT("\nLivestreamWizard tab:\n"));
-		Print(FWidgetDriver::DescribeTree(FLivestreamWizardDriver::OpenFromToolbar()->GetContent()));
+		Print(FViewOutline::Describe(FLivestreamWizardDriver::OpenFromToolbar(), FLivestreamWizardDriver::GetDockedTabSize()));
 		return ExitDone;
 	}
 

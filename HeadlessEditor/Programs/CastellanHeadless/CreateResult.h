@@ -68,7 +68,7 @@ struct FCreateResult
 	/** What the wizard shows. */
 	FLivestreamWizardResult Wizard;
 	TArray<FEditorMessage> EditorMessages;
-	/** The wizard's widget tree after pressing Create. */
+	/** The outline of the wizard's tab after pressing Create, as the wizard views give it. */
 	FString WizardOutline;
 	FLevelSnapshot Level;
 };

@@ -12,7 +12,7 @@
 #include "LivestreamWizardDriver.h"
 #include "Misc/OutputDevice.h"
 #include "Misc/OutputDeviceRedirector.h"
-#include "WidgetDriver.h"
+#include "Views/ViewOutline.h"
 #include "Widgets/Docking/SDockTab.h"
 
 namespace
@@ -122,7 +122,8 @@ namespace
 
 FCreateResult CastellanEditorDriver::CreateLivestream(const FLivestreamWizardInputs& Inputs)
 {
-	const TSharedRef<SWidget> Wizard = FLivestreamWizardDriver::OpenFromToolbar()->GetContent();
+	const TSharedRef<SDockTab> Tab = FLivestreamWizardDriver::OpenFromToolbar();
+	const TSharedRef<SWidget> Wizard = Tab->GetContent();
 	FCreateResult Result;
 	Result.Name = Inputs.Name.Get(FString());
 	const int32 FirstMessageBox = UE::Headless::GetShownMessageDialogs().Num();
@@ -134,7 +135,7 @@ FCreateResult CastellanEditorDriver::CreateLivestream(const FLivestreamWizardInp
 		Result.EditorMessages.Append(Log.Lines);
 	}
 	Result.Wizard = FLivestreamWizardDriver::ReadResult(Wizard);
-	Result.WizardOutline = FWidgetDriver::DescribeTree(Wizard);
+	Result.WizardOutline = FViewOutline::Describe(Tab, FLivestreamWizardDriver::GetDockedTabSize());
 	Result.Level = TakeLevelSnapshot();
 	return Result;
 }

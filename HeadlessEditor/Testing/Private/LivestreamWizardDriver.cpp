@@ -83,6 +83,11 @@ TSharedRef<SDockTab> FLivestreamWizardDriver::OpenFromToolbar()
 	return Tab.ToSharedRef();
 }
 
+FIntPoint FLivestreamWizardDriver::GetDockedTabSize()
+{
+	return FIntPoint(560, 512);
+}
+
 void FLivestreamWizardDriver::FillIn(const TSharedRef<SWidget>& Wizard, const FLivestreamWizardInputs& Inputs)
 {
 	if (Inputs.Capture.IsSet())

@@ -2,7 +2,6 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "Layout/Children.h"
-#include "PrintableText.h"
 #include "Rendering/DrawElements.h"
 #include "WidgetRenderer.h"
 #include "Widgets/Input/SButton.h"
@@ -55,26 +54,6 @@ namespace
 		for (const TSharedRef<SWidget>& Child : FWidgetDriver::GetChildWidgets(Widget))
 		{
 			CollectMatches(Child, TypeName, Text, OutMatches);
-		}
-	}
-
-	void DescribeWidget(const TSharedRef<SWidget>& Widget, int32 Depth, FString& OutDescription)
-	{
-		for (int32 Level = 0; Level < Depth; ++Level)
-		{
-			OutDescription += TEXT("  ");
-		}
-		OutDescription += Widget->GetTypeAsString();
-		const TOptional<FString> Text = GetOwnText(Widget);
-		if (Text.IsSet())
-		{
-			OutDescription += TEXT(" \"") + FPrintableText::Escape(Text.GetValue()) + TEXT("\"");
-		}
-		OutDescription += TEXT(" [") + Widget->GetVisibility().ToString() + (Widget->IsEnabled() ? TEXT(", enabled]") : TEXT(", disabled]"));
-		OutDescription += TEXT("\n");
-		for (const TSharedRef<SWidget>& Child : FWidgetDriver::GetChildWidgets(Widget))
-		{
-			DescribeWidget(Child, Depth + 1, OutDescription);
 		}
 	}
 }
@@ -260,11 +239,4 @@ bool FWidgetDriver::PressKey(const TSharedRef<SWidget>& Widget, const FKey& Key)
 	const bool bFocused = Application.SetKeyboardFocus(Widget);
 	checkf(bFocused, TEXT("The widget does not support keyboard focus"));
 	return Application.ProcessKeyDownEvent(FKeyEvent(Key, FModifierKeysState(), 0, false, 0, 0));
-}
-
-FString FWidgetDriver::DescribeTree(const TSharedRef<SWidget>& Root)
-{
-	FString Description;
-	DescribeWidget(Root, 0, Description);
-	return Description;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Math/IntPoint.h"
 #include "Misc/Optional.h"
 
 class SDockTab;
@@ -43,6 +44,9 @@ class HEADLESSTESTING_API FLivestreamWizardDriver
 public:
 	/** Opens the wizard's tab from the plugin's toolbar button: its drop-down, then "Livestream Wizard". */
 	static TSharedRef<SDockTab> OpenFromToolbar();
+
+	/** The size the tab is drawn at, docked beside the viewport: wide enough for the description, tall enough for every step with its warnings. */
+	static FIntPoint GetDockedTabSize();
 
 	/** Picks the capture type, ticks the outputs (leaving ticked ones alone), then types the name and moves on. */
 	static void FillIn(const TSharedRef<SWidget>& Wizard, const FLivestreamWizardInputs& Inputs);

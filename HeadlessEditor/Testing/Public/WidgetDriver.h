@@ -130,9 +130,6 @@ public:
 		return UE::Headless::GetListItems(*GetComboList(ComboBox));
 	}
 
-	/** An indented outline of the tree, one line per widget: type, "text" (escaped as FPrintableText does), visibility, enabled state. */
-	static FString DescribeTree(const TSharedRef<SWidget>& Root);
-
 private:
 	/** The list view of a combo box's drop-down. */
 	template <typename OptionType>

@@ -6,9 +6,6 @@
 
 namespace
 {
-	/** The tab docked beside the viewport: wide enough for the description, tall enough for every step with its warnings. */
-	const FIntPoint TabSize(560, 512);
-
 	const TCHAR* const CaptureOption = TEXT("capture");
 	const TCHAR* const OutputOption = TEXT("output");
 	const TCHAR* const NameOption = TEXT("name");
@@ -63,7 +60,7 @@ namespace
 		TUniquePtr<FHeadlessEditorSession> Session = MakeUnique<FHeadlessEditorSession>();
 		const TSharedRef<SDockTab> Tab = FLivestreamWizardDriver::OpenFromToolbar();
 		FLivestreamWizardDriver::FillIn(Tab->GetContent(), ReadInputs(Arguments));
-		return FShownEditorView(MoveTemp(Session), Tab, TabSize);
+		return FShownEditorView(MoveTemp(Session), Tab, FLivestreamWizardDriver::GetDockedTabSize());
 	}
 
 	/** The tab after filling it in and pressing Create; a problem unless the wizard came to the Expected outcome. */
@@ -75,7 +72,7 @@ namespace
 		FLivestreamWizardDriver::PressCreate(Tab->GetContent());
 		const FLivestreamWizardResult Result = FLivestreamWizardDriver::ReadResult(Tab->GetContent());
 		const FString Problem = Result.Outcome == Expected ? FString() : FString::Printf(TEXT("this view shows %s, but %s"), ExpectedState, *DescribeResult(Result));
-		return FShownEditorView(MoveTemp(Session), Tab, TabSize, Problem);
+		return FShownEditorView(MoveTemp(Session), Tab, FLivestreamWizardDriver::GetDockedTabSize(), Problem);
 	}
 }
 
