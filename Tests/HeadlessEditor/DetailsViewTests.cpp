@@ -52,7 +52,7 @@ namespace
 		using IDetailCustomization::CustomizeDetails;
 		virtual void CustomizeDetails(IDetailLayoutBuilder& DetailBuilder) override
 		{
-			DetailBuilder.EditCategory(TEXT("Custom"), FText::FromString(TEXT("Custom Category"))).AddProperty(DetailBuilder.GetProperty(TEXT("Options")).ToSharedPtr());
+			DetailBuilder.EditCategory(TEXT("Custom"), FText::FromString(TEXT("Custom Category"))).AddProperty(DetailBuilder.GetProperty(TEXT("Options")));
 		}
 	};
 

@@ -57,7 +57,7 @@ public:
 	static TSharedPtr<WidgetType> FindValueWidget(const FHeadlessDetailRow& Row, const FString& TypeName)
 	{
 		const TSharedPtr<SWidget> Found = FindValueWidget(Row, TypeName);
-		return Found.IsValid() ? StaticCastSharedRef<WidgetType>(Found.ToSharedRef()).ToSharedPtr() : TSharedPtr<WidgetType>();
+		return Found.IsValid() ? TSharedPtr<WidgetType>(StaticCastSharedRef<WidgetType>(Found.ToSharedRef())) : TSharedPtr<WidgetType>();
 	}
 
 private:

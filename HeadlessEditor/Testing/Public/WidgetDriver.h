@@ -42,7 +42,7 @@ public:
 	static TSharedPtr<WidgetType> Find(const TSharedRef<SWidget>& Root, const FString& TypeName, const TOptional<FString>& Text = TOptional<FString>())
 	{
 		const TSharedPtr<SWidget> Found = FindWidget(Root, TypeName, Text);
-		return Found.IsValid() ? StaticCastSharedRef<WidgetType>(Found.ToSharedRef()).ToSharedPtr() : TSharedPtr<WidgetType>();
+		return Found.IsValid() ? TSharedPtr<WidgetType>(StaticCastSharedRef<WidgetType>(Found.ToSharedRef())) : TSharedPtr<WidgetType>();
 	}
 
 	/**

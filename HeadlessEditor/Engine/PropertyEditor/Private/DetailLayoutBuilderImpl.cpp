@@ -200,7 +200,7 @@ IDetailCategoryBuilder& FDetailCategoryImpl::InitiallyCollapsed(bool bShouldBeIn
 
 IDetailPropertyRow& FDetailCategoryImpl::AddProperty(FName PropertyPath, UClass* ClassOutermost, FName InstanceName, EPropertyLocation::Type Location)
 {
-	return AddProperty(Layout.GetProperty(PropertyPath, ClassOutermost, InstanceName).ToSharedPtr(), Location);
+	return AddProperty(TSharedPtr<IPropertyHandle>(Layout.GetProperty(PropertyPath, ClassOutermost, InstanceName)), Location);
 }
 
 IDetailPropertyRow& FDetailCategoryImpl::AddProperty(TSharedPtr<IPropertyHandle> PropertyHandle, EPropertyLocation::Type Location)
@@ -392,7 +392,7 @@ TSharedRef<IPropertyHandle> FDetailLayoutBuilderImpl::GetProperty(const FName Pr
 {
 	TArray<FString> Segments;
 	PropertyPath.ToString().ParseIntoArray(Segments, TEXT("."));
-	TSharedPtr<FDetailPropertyNode> Node = Segments.Num() > 0 ? Root.ToSharedPtr() : nullptr;
+	TSharedPtr<FDetailPropertyNode> Node = Segments.Num() > 0 ? TSharedPtr<FDetailPropertyNode>(Root) : nullptr;
 	for (const FString& Segment : Segments)
 	{
 		Node = Node.IsValid() ? Node->FindChild(FName(*Segment), false) : nullptr;
@@ -411,7 +411,7 @@ void FDetailLayoutBuilderImpl::HideProperty(const TSharedPtr<IPropertyHandle> Pr
 
 void FDetailLayoutBuilderImpl::HideProperty(FName PropertyPath, const UStruct* ClassOutermost, FName InstanceName)
 {
-	HideProperty(GetProperty(PropertyPath, ClassOutermost, InstanceName).ToSharedPtr());
+	HideProperty(TSharedPtr<IPropertyHandle>(GetProperty(PropertyPath, ClassOutermost, InstanceName)));
 }
 
 void FDetailLayoutBuilderImpl::HideCategory(FName CategoryName)
@@ -435,14 +435,14 @@ TSharedPtr<IPropertyTypeCustomization> FDetailLayoutBuilderImpl::MakeTypeCustomi
 	}
 	// This view has no layouts of its own, only the ones registered with the module.
 	const FPropertyTypeLayoutCallback Callback = Module->FindPropertyTypeLayoutCallback(StructProperty->Struct->GetFName(), *Handle, FCustomPropertyTypeLayoutMap());
-	return Callback.IsValid() ? Callback.GetCustomizationInstance().ToSharedPtr() : nullptr;
+	return Callback.IsValid() ? TSharedPtr<IPropertyTypeCustomization>(Callback.GetCustomizationInstance()) : nullptr;
 }
 
 TSharedRef<FHeadlessDetailRow> FDetailLayoutBuilderImpl::GenerateRow(const TSharedRef<FDetailPropertyNode>& Node, FDetailCategoryImpl& Category, bool bAdvanced)
 {
 	const FName RowName = Node->GetArrayIndex() != INDEX_NONE ? FName(*FString::FromInt(Node->GetArrayIndex())) : Node->GetProperty()->GetFName();
 	const TSharedRef<FHeadlessDetailRow> Row = MakeRow(FHeadlessDetailRow::EKind::Property, RowName, bAdvanced);
-	const TSharedRef<IPropertyHandle> Handle = MakeShared<FPropertyHandleImpl>(Node.ToSharedPtr());
+	const TSharedRef<IPropertyHandle> Handle = MakeShared<FPropertyHandleImpl>(TSharedPtr<FDetailPropertyNode>(Node));
 	Row->PropertyHandle = Handle;
 
 	if (const TSharedPtr<IPropertyTypeCustomization> Customization = MakeTypeCustomization(Node, Handle))

@@ -435,7 +435,7 @@ TSharedPtr<IPropertyHandle> FPropertyHandleImpl::GetChildHandle(uint32 Index) co
 		return nullptr;
 	}
 	const TArray<TSharedRef<FDetailPropertyNode>>& Children = Pinned->GetChildren();
-	return Children.IsValidIndex(static_cast<int32>(Index)) ? MakeShared<FPropertyHandleImpl>(Children[static_cast<int32>(Index)].ToSharedPtr()) : TSharedPtr<IPropertyHandle>();
+	return Children.IsValidIndex(static_cast<int32>(Index)) ? MakeShared<FPropertyHandleImpl>(TSharedPtr<FDetailPropertyNode>(Children[static_cast<int32>(Index)])) : TSharedPtr<IPropertyHandle>();
 }
 
 TSharedPtr<IPropertyHandle> FPropertyHandleImpl::GetParentHandle() const
@@ -445,7 +445,7 @@ TSharedPtr<IPropertyHandle> FPropertyHandleImpl::GetParentHandle() const
 	{
 		return nullptr;
 	}
-	return MakeShared<FPropertyHandleImpl>(Pinned->GetParent()->AsShared().ToSharedPtr());
+	return MakeShared<FPropertyHandleImpl>(TSharedPtr<FDetailPropertyNode>(Pinned->GetParent()->AsShared()));
 }
 
 FPropertyAccess::Result FPropertyHandleImpl::GetNumChildren(uint32& OutNumChildren) const

@@ -79,7 +79,6 @@ public:
 	ObjectType& Get() const { return *Object; }
 	ObjectType& operator*() const { return *Object; }
 	ObjectType* operator->() const { return Object.get(); }
-	TSharedPtr<ObjectType, Mode> ToSharedPtr() const { return TSharedPtr<ObjectType, Mode>(*this); }
 	int32 GetSharedReferenceCount() const { return static_cast<int32>(Object.use_count()); }
 	bool IsUnique() const { return Object.use_count() == 1; }
 	bool IsValid() const { return true; }
