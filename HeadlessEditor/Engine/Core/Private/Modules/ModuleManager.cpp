@@ -8,18 +8,18 @@ FModuleManager& FModuleManager::Get()
 	return *Manager;
 }
 
-void FModuleManager::RegisterStaticallyLinkedModule(const FName InModuleName, FInitializeModuleFunctionPtr InInitializerFunction)
+void FModuleManager::RegisterStaticallyLinkedModule(const FLazyName InModuleName, const FInitializeStaticallyLinkedModule& InInitializerDelegate)
 {
-	FModuleManager& Manager = Get();
-	if (FModuleInfo* Existing = Manager.FindModule(InModuleName))
+	const FName ModuleName = InModuleName;
+	if (FModuleInfo* Existing = FindModule(ModuleName))
 	{
-		Existing->Initializer = InInitializerFunction;
+		Existing->Initializer = InInitializerDelegate;
 		return;
 	}
 	auto Info = std::make_shared<FModuleInfo>();
-	Info->Name = InModuleName;
-	Info->Initializer = InInitializerFunction;
-	Manager.Modules.Add(Info);
+	Info->Name = ModuleName;
+	Info->Initializer = InInitializerDelegate;
+	Modules.Add(Info);
 }
 
 FModuleManager::FModuleInfo* FModuleManager::FindModule(const FName InModuleName)
@@ -53,13 +53,13 @@ bool FModuleManager::ModuleExists(const TCHAR* ModuleName) const
 IModuleInterface* FModuleManager::LoadModule(const FName InModuleName, ELoadModuleFlags InLoadModuleFlags)
 {
 	FModuleInfo* Info = FindModule(InModuleName);
-	if (!Info || !Info->Initializer)
+	if (!Info || !Info->Initializer.IsBound())
 	{
 		return nullptr;
 	}
 	if (!Info->Module)
 	{
-		Info->Module.reset(Info->Initializer());
+		Info->Module.reset(Info->Initializer.Execute());
 		Info->Module->StartupModule();
 		// Ordered after the modules its start-up loaded, so it shuts down before them.
 		Info->LoadOrder = NextLoadOrder++;

@@ -146,3 +146,19 @@ FString FName::NameToDisplayString(const FString& InDisplayName, const bool bIsB
 	}
 	return Result;
 }
+
+FName FLazyName::Resolve() const
+{
+	if (Resolved.IsNone())
+	{
+		if (WideLiteral)
+		{
+			Resolved = FName(WideLiteral);
+		}
+		else if (AnsiLiteral)
+		{
+			Resolved = FName(AnsiLiteral);
+		}
+	}
+	return Resolved;
+}

@@ -2,6 +2,7 @@
 
 #include "CoreTypes.h"
 #include "Containers/Array.h"
+#include "Delegates/Delegate.h"
 #include "Misc/AssertionMacros.h"
 #include "Modules/ModuleInterface.h"
 #include "UObject/NameTypes.h"
@@ -57,14 +58,16 @@ public:
 		return static_cast<TModuleInterface*>(Get().LoadModule(InModuleName));
 	}
 
-	/** Called by IMPLEMENT_MODULE when the module's library is loaded into the process. */
-	static void RegisterStaticallyLinkedModule(const FName InModuleName, FInitializeModuleFunctionPtr InInitializerFunction);
+	DECLARE_DELEGATE_RetVal(IModuleInterface*, FInitializeStaticallyLinkedModule)
+
+		/** Called by IMPLEMENT_MODULE when the module's library is loaded into the process. */
+		void RegisterStaticallyLinkedModule(const FLazyName InModuleName, const FInitializeStaticallyLinkedModule& InInitializerDelegate);
 
 private:
 	struct FModuleInfo
 	{
 		FName Name;
-		FInitializeModuleFunctionPtr Initializer = nullptr;
+		FInitializeStaticallyLinkedModule Initializer;
 		std::unique_ptr<IModuleInterface> Module;
 		int32 LoadOrder = INDEX_NONE;
 	};
@@ -87,7 +90,7 @@ private:
 		{ \
 			FModuleRegistrant_##ModuleName() \
 			{ \
-				FModuleManager::RegisterStaticallyLinkedModule(FName(TEXT(#ModuleName)), &InitializeModule_##ModuleName); \
+				FModuleManager::Get().RegisterStaticallyLinkedModule(TEXT(#ModuleName), FModuleManager::FInitializeStaticallyLinkedModule::CreateStatic(&InitializeModule_##ModuleName)); \
 			} \
 		} ModuleRegistrant_##ModuleName; \
 	} \

@@ -79,3 +79,39 @@ inline FString LexToString(const FName& Name)
 {
 	return Name.ToString();
 }
+
+/**
+ * A name that becomes an FName only when it is first used, so that it can be declared where names
+ * cannot be made yet, such as in static initialisers.
+ */
+class FLazyName
+{
+public:
+	FLazyName() = default;
+
+	template <int N>
+	FLazyName(const WIDECHAR (&Literal)[N])
+		: WideLiteral(Literal)
+	{
+	}
+
+	template <int N>
+	FLazyName(const ANSICHAR (&Literal)[N])
+		: AnsiLiteral(Literal)
+	{
+	}
+
+	explicit FLazyName(FName Name)
+		: Resolved(Name)
+	{
+	}
+
+	operator FName() const { return Resolve(); }
+
+	CORE_API FName Resolve() const;
+
+private:
+	const WIDECHAR* WideLiteral = nullptr;
+	const ANSICHAR* AnsiLiteral = nullptr;
+	mutable FName Resolved;
+};
