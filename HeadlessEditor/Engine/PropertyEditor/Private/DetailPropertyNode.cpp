@@ -80,11 +80,11 @@ const TArray<TSharedRef<FDetailPropertyNode>>& FDetailPropertyNode::GetChildren(
 		}
 		for (const UStruct* Current : Chain)
 		{
-			for (FProperty* Member : Current->GetOwnProperties())
+			for (TFieldIterator<FProperty> Member(Current, EFieldIteratorFlags::ExcludeSuper); Member; ++Member)
 			{
 				if (Member->HasAnyPropertyFlags(CPF_Edit))
 				{
-					Children.Add(MakeShared<FDetailPropertyNode>(this, Member, INDEX_NONE));
+					Children.Add(MakeShared<FDetailPropertyNode>(this, *Member, INDEX_NONE));
 				}
 			}
 		}

@@ -52,14 +52,13 @@ public:
 
 	/** Adds a property declared by the type's own code; properties keep declaration order. */
 	void AddCppProperty(FProperty* Property);
-	/** This type's own properties, in declaration order (not its super's). */
-	const TArray<FProperty*>& GetOwnProperties() const { return OwnProperties; }
-
 	/** Copies every reflected property from Src to Dest, optionally skipping transient ones. */
 	void CopyProperties(void* Dest, const void* Src, bool bSkipTransient) const;
 
 protected:
 	friend class FUObjectRegistry;
+	template <class T>
+	friend class TFieldIterator;
 	UStruct* SuperStruct = nullptr;
 	TArray<FProperty*> OwnProperties;
 	int32 PropertiesSize = 0;

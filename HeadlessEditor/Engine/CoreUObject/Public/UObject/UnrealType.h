@@ -477,7 +477,7 @@ public:
 		++Index;
 		Settle();
 	}
-	T* operator*() const { return static_cast<T*>(Struct->GetOwnProperties()[Index]); }
+	T* operator*() const { return static_cast<T*>(Struct->OwnProperties[Index]); }
 	T* operator->() const { return **this; }
 	const UStruct* GetStruct() const { return Struct; }
 
@@ -486,7 +486,7 @@ private:
 	{
 		while (Struct)
 		{
-			const TArray<FProperty*>& Properties = Struct->GetOwnProperties();
+			const TArray<FProperty*>& Properties = Struct->OwnProperties;
 			for (; Index < Properties.Num(); ++Index)
 			{
 				if (Properties[Index]->IsA<T>())
