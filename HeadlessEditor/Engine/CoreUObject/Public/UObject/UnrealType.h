@@ -227,6 +227,8 @@ HEADLESS_DECLARE_PROPERTY(FDoubleProperty, double)
 HEADLESS_DECLARE_PROPERTY(FStrProperty, FString)
 HEADLESS_DECLARE_PROPERTY(FNameProperty, FName)
 
+#undef HEADLESS_DECLARE_PROPERTY
+
 /**
  * A bool member, or a one-bit bitfield of an unsigned integer that the header tool reflects as a
  * bool: reads and writes only its own bit of its byte.
